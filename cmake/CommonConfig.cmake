@@ -1,0 +1,29 @@
+# Settings shared by every target of the project: language level, warnings,
+# Qt's automatic tools and one output folder for all executables, so that
+# the application and the tests find the generated Resources/ folder beside them.
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+
+# The folder beside the executables that holds samples and slides.
+set(QM_BUNDLE_RESOURCES_DIR "${CMAKE_BINARY_DIR}/bin/Resources")
+
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Multimedia Network DBus Test)
+
+add_library(qm_common INTERFACE)
+target_compile_options(qm_common INTERFACE -Wall -Wextra)
+target_compile_definitions(qm_common INTERFACE
+    QT_DEPRECATED_WARNINGS_SINCE=0x050F00)
+
+# qm_add_test(<name> SOURCES <files> LIBS <targets>)
+# One QtTest executable per test file, run headless by CTest.
+function(qm_add_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE qm_common Qt5::Test ${ARG_LIBS})
+    target_compile_definitions(${name} PRIVATE SRCDIR="${CMAKE_CURRENT_SOURCE_DIR}/")
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()

@@ -1,0 +1,53 @@
+#include "ArtWriter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QSaveFile>
+#include <QTextStream>
+
+ArtWriter::ArtWriter(const QString& picturesDir, const QString& bundleDir)
+    : m_picturesDir(picturesDir)
+    , m_bundleDir(bundleDir)
+{
+    QDir().mkpath(m_picturesDir);
+    QDir().mkpath(m_bundleDir);
+}
+
+bool ArtWriter::addPicture(const QString& resourceName, const QImage& image, int quality)
+{
+    const QString path = m_picturesDir + QLatin1Char('/') + resourceName;
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    if (!image.save(path, nullptr, quality))
+        return false;
+    m_pictures.append(resourceName);
+    return true;
+}
+
+bool ArtWriter::addBundleFile(const QString& fileName, const QByteArray& data)
+{
+    QSaveFile file(bundlePath(fileName));
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.write(data);
+    return file.commit();
+}
+
+QString ArtWriter::bundlePath(const QString& fileName) const
+{
+    return m_bundleDir + QLatin1Char('/') + fileName;
+}
+
+bool ArtWriter::writeQrc(const QString& qrcFileName) const
+{
+    QSaveFile file(qrcFileName);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+        return false;
+    QTextStream out(&file);
+    out << "<!DOCTYPE RCC><RCC version=\"1.0\">\n<qresource prefix=\"/\">\n";
+    for (const QString& name : m_pictures)
+        out << "    <file>" << name << "</file>\n";
+    out << "</qresource>\n</RCC>\n";
+    out.flush();
+    return file.commit();
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QImage;
+
+// Writes the generated files and remembers the pictures for the .qrc that
+// compiles them into the program.
+class ArtWriter
+{
+public:
+    ArtWriter(const QString& picturesDir, const QString& bundleDir);
+
+    // Saves a picture under its resource name, e.g. "Guitar_0@2x.jpg"
+    // becomes ":/Guitar_0@2x.jpg". The format follows the suffix.
+    bool addPicture(const QString& resourceName, const QImage& image, int quality = -1);
+    // Saves a file into the Resources folder beside the program.
+    bool addBundleFile(const QString& fileName, const QByteArray& data);
+    QString bundlePath(const QString& fileName) const;
+    bool writeQrc(const QString& qrcFileName) const;
+
+private:
+    QString m_picturesDir;
+    QString m_bundleDir;
+    QStringList m_pictures;
+};

@@ -1,0 +1,25 @@
+// artgen: draws the program's pictures and synthesises its samples.
+#include "ArtWriter.h"
+
+#include <QCommandLineParser>
+#include <QFontDatabase>
+#include <QGuiApplication>
+
+int main(int argc, char* argv[])
+{
+    QGuiApplication app(argc, argv);
+
+    QCommandLineParser parser;
+    const QCommandLineOption picturesOption("pictures", "Folder of the compiled-in pictures.", "dir");
+    const QCommandLineOption bundleOption("bundle", "Resources folder beside the program.", "dir");
+    const QCommandLineOption fontOption("music-font", "Engraving font (Emmentaler).", "file");
+    parser.addOptions({ picturesOption, bundleOption, fontOption });
+    parser.process(app);
+
+    if (parser.isSet(fontOption))
+        QFontDatabase::addApplicationFont(parser.value(fontOption));
+
+    ArtWriter writer(parser.value(picturesOption), parser.value(bundleOption));
+
+    return writer.writeQrc(parser.value(picturesOption) + QStringLiteral("/art.qrc")) ? 0 : 1;
+}
