@@ -1,5 +1,6 @@
 // artgen: draws the program's pictures and synthesises its samples.
 #include "ArtWriter.h"
+#include "LookArt.h"
 
 #include <QCommandLineParser>
 #include <QFontDatabase>
@@ -20,6 +21,7 @@ int main(int argc, char* argv[])
         QFontDatabase::addApplicationFont(parser.value(fontOption));
 
     ArtWriter writer(parser.value(picturesOption), parser.value(bundleOption));
+    LookArt::generate(writer);
 
     return writer.writeQrc(parser.value(picturesOption) + QStringLiteral("/art.qrc")) ? 0 : 1;
 }

@@ -1,0 +1,294 @@
+#include "LookArt.h"
+
+#include "ArtWriter.h"
+
+#include <QFont>
+#include <QImage>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRadialGradient>
+
+#include <functional>
+
+namespace {
+
+// Paints at a logical size and writes the picture twice: "name.png" at the
+// logical size and "name@2x.png" at twice that.
+using Painter = std::function<void(QPainter&, const QSizeF&)>;
+
+void savePair(ArtWriter& writer, const QString& name, const QSize& size, const Painter& paint)
+{
+    for (int scale = 1; scale <= 2; ++scale) {
+        QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setRenderHint(QPainter::TextAntialiasing);
+        painter.scale(scale, scale);
+        paint(painter, QSizeF(size));
+        painter.end();
+        writer.addPicture(scale == 1 ? name + QStringLiteral(".png") : name + QStringLiteral("@2x.png"), image);
+    }
+}
+
+// A rounded tile with a brushed gradient of the channel's colour and a thin
+// light rim; hover lifts its brightness.
+void paintTile(QPainter& p, const QSizeF& size, const QColor& colour, bool hover)
+{
+    const QRectF r(1.5, 1.5, size.width() - 3, size.height() - 3);
+    QLinearGradient fill(r.topLeft(), r.bottomLeft());
+    const QColor base = hover ? colour.lighter(125) : colour;
+    fill.setColorAt(0.0, base.lighter(135));
+    fill.setColorAt(0.45, base);
+    fill.setColorAt(1.0, base.darker(160));
+    p.setPen(QPen(QColor(255, 255, 255, hover ? 200 : 110), 1.2));
+    p.setBrush(fill);
+    p.drawRoundedRect(r, size.width() * 0.2, size.height() * 0.2);
+    QLinearGradient gloss(r.topLeft(), QPointF(r.left(), r.center().y()));
+    gloss.setColorAt(0.0, QColor(255, 255, 255, 70));
+    gloss.setColorAt(1.0, QColor(255, 255, 255, 0));
+    p.setPen(Qt::NoPen);
+    p.setBrush(gloss);
+    p.drawRoundedRect(r.adjusted(2, 2, -2, -r.height() / 2), size.width() * 0.16, size.height() * 0.1);
+}
+
+void paintLetters(QPainter& p, const QRectF& box, const QString& text, qreal pixelSize)
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setBold(true);
+    font.setPixelSize(qRound(pixelSize));
+    p.setFont(font);
+    p.setPen(Qt::white);
+    p.drawText(box, Qt::AlignCenter, text);
+}
+
+void paintEnvelope(QPainter& p, const QRectF& box)
+{
+    p.setPen(QPen(Qt::white, box.width() * 0.07, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setBrush(Qt::NoBrush);
+    p.drawRoundedRect(box, 2, 2);
+    QPainterPath flap;
+    flap.moveTo(box.topLeft());
+    flap.lineTo(box.center().x(), box.top() + box.height() * 0.6);
+    flap.lineTo(box.topRight());
+    p.drawPath(flap);
+}
+
+// The channel's badge in the lower right corner: a plus to join, an arrow to share.
+void paintBadge(QPainter& p, const QSizeF& size, bool join)
+{
+    const qreal d = size.width() * 0.36;
+    const QRectF badge(size.width() - d - 2, size.height() - d - 2, d, d);
+    p.setPen(QPen(QColor(40, 28, 18), 1.2));
+    p.setBrush(QColor(240, 226, 196));
+    p.drawEllipse(badge);
+    p.setPen(QPen(QColor(90, 50, 25), d * 0.14, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF c = badge.center();
+    const qreal a = d * 0.26;
+    if (join) {
+        p.drawLine(QPointF(c.x() - a, c.y()), QPointF(c.x() + a, c.y()));
+        p.drawLine(QPointF(c.x(), c.y() - a), QPointF(c.x(), c.y() + a));
+    } else {
+        p.drawLine(QPointF(c.x() - a, c.y() + a), QPointF(c.x() + a, c.y() - a));
+        p.drawLine(QPointF(c.x() + a, c.y() - a), QPointF(c.x(), c.y() - a));
+        p.drawLine(QPointF(c.x() + a, c.y() - a), QPointF(c.x() + a, c.y()));
+    }
+}
+
+void generateChannels(ArtWriter& writer)
+{
+    struct Channel {
+        const char* name;
+        QColor colour;
+        QString mark;
+    };
+    const Channel channels[] = {
+        { "facebook", QColor(59, 89, 152), QStringLiteral("f") },
+        { "vkontakte", QColor(76, 117, 163), QStringLiteral("vk") },
+        { "twitter", QColor(29, 142, 206), QStringLiteral("t") },
+        { "email", QColor(150, 92, 48), QString() },
+    };
+    const QSize size(64, 64);
+    for (const Channel& channel : channels) {
+        for (const bool join : { true, false }) {
+            for (const bool hover : { false, true }) {
+                const QString name = QString::fromLatin1(channel.name) + (join ? QStringLiteral("join") : QStringLiteral("share"))
+                    + (hover ? QStringLiteral("_hover") : QString());
+                savePair(writer, name, size, [&](QPainter& p, const QSizeF& s) {
+                    paintTile(p, s, channel.colour, hover);
+                    const QRectF content(s.width() * 0.16, s.height() * 0.12, s.width() * 0.56, s.height() * 0.6);
+                    if (channel.mark.isEmpty())
+                        paintEnvelope(p, content.adjusted(0, content.height() * 0.15, 0, -content.height() * 0.1));
+                    else
+                        paintLetters(p, content, channel.mark, s.height() * (channel.mark.size() > 1 ? 0.34 : 0.5));
+                    paintBadge(p, s, join);
+                });
+            }
+        }
+    }
+}
+
+// Instrument silhouettes in ivory on a dark rounded plate, for the tuner and
+// finder pages' instrument labels.
+QPainterPath bodyPath(const QString& instrument, const QSizeF& s)
+{
+    const qreal w = s.width();
+    const qreal h = s.height();
+    QPainterPath path;
+    if (instrument == QLatin1String("piano")) {
+        path.addRoundedRect(QRectF(w * 0.14, h * 0.3, w * 0.72, h * 0.44), 4, 4);
+        return path;
+    }
+    if (instrument == QLatin1String("balalaika")) {
+        path.moveTo(w * 0.5, h * 0.42);
+        path.lineTo(w * 0.8, h * 0.88);
+        path.quadTo(w * 0.5, h * 0.95, w * 0.2, h * 0.88);
+        path.closeSubpath();
+        return path;
+    }
+    if (instrument == QLatin1String("banjo")) {
+        path.addEllipse(QPointF(w * 0.5, h * 0.68), w * 0.24, w * 0.24);
+        return path;
+    }
+    if (instrument == QLatin1String("mandolin")) {
+        path.addEllipse(QPointF(w * 0.5, h * 0.7), w * 0.2, h * 0.2);
+        return path;
+    }
+    // Guitar and bass: a figure of eight, the bass a little longer.
+    const bool bass = instrument == QLatin1String("bass");
+    const qreal waist = bass ? 0.62 : 0.6;
+    path.addEllipse(QPointF(w * 0.5, h * (waist - 0.1)), w * 0.16, h * 0.13);
+    path.addEllipse(QPointF(w * 0.5, h * (waist + 0.15)), w * 0.22, h * 0.18);
+    return path.simplified();
+}
+
+void paintInstrument(QPainter& p, const QSizeF& s, const QString& instrument)
+{
+    const QRectF plate(1, 1, s.width() - 2, s.height() - 2);
+    QLinearGradient ground(plate.topLeft(), plate.bottomLeft());
+    ground.setColorAt(0.1, QColor(50, 50, 50, 220));
+    ground.setColorAt(0.6, QColor(10, 10, 10, 220));
+    ground.setColorAt(1.0, QColor(50, 50, 50, 220));
+    p.setPen(QPen(QColor(128, 128, 128), 1));
+    p.setBrush(ground);
+    p.drawRoundedRect(plate, 8, 8);
+
+    const QColor ivory(236, 224, 196);
+    const QColor rosewood(92, 48, 26);
+    p.setPen(Qt::NoPen);
+    if (instrument == QLatin1String("piano")) {
+        const QRectF keys(s.width() * 0.14, s.height() * 0.3, s.width() * 0.72, s.height() * 0.44);
+        p.setBrush(ivory);
+        p.drawRoundedRect(keys, 3, 3);
+        p.setPen(QPen(rosewood, 1));
+        const int white = 7;
+        for (int i = 1; i < white; ++i) {
+            const qreal x = keys.left() + keys.width() * i / white;
+            p.drawLine(QPointF(x, keys.top()), QPointF(x, keys.bottom()));
+        }
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor(20, 20, 20));
+        for (const int i : { 1, 2, 4, 5, 6 }) {
+            const qreal x = keys.left() + keys.width() * i / white;
+            p.drawRect(QRectF(x - keys.width() / 28, keys.top(), keys.width() / 14, keys.height() * 0.6));
+        }
+        return;
+    }
+    const qreal neckWidth = s.width() * (instrument == QLatin1String("bass") ? 0.07 : 0.06);
+    p.setBrush(rosewood.lighter(140));
+    p.drawRect(QRectF(s.width() / 2 - neckWidth / 2, s.height() * 0.12, neckWidth, s.height() * 0.5));
+    p.drawRoundedRect(QRectF(s.width() / 2 - neckWidth, s.height() * 0.06, neckWidth * 2, s.height() * 0.1), 2, 2);
+    p.setBrush(ivory);
+    p.drawPath(bodyPath(instrument, s));
+    p.setBrush(QColor(30, 20, 14));
+    if (instrument == QLatin1String("banjo"))
+        p.drawEllipse(QPointF(s.width() * 0.5, s.height() * 0.68), s.width() * 0.17, s.width() * 0.17);
+    else if (instrument != QLatin1String("balalaika"))
+        p.drawEllipse(QPointF(s.width() * 0.5, s.height() * 0.66), s.width() * 0.06, s.width() * 0.06);
+    else
+        p.drawEllipse(QPointF(s.width() * 0.5, s.height() * 0.7), s.width() * 0.035, s.width() * 0.035);
+}
+
+void generateInstruments(ArtWriter& writer)
+{
+    const QSize size(64, 64);
+    const QStringList instruments = { QStringLiteral("mandolin"), QStringLiteral("guitar"), QStringLiteral("piano"),
+        QStringLiteral("banjo"), QStringLiteral("balalaika"), QStringLiteral("bass") };
+    for (const QString& instrument : instruments)
+        savePair(writer, instrument, size, [&](QPainter& p, const QSizeF& s) { paintInstrument(p, s, instrument); });
+    // The capitalised name is the guitar on the finder's own label.
+    savePair(writer, QStringLiteral("Guitar"), size,
+        [](QPainter& p, const QSizeF& s) { paintInstrument(p, s, QStringLiteral("guitar")); });
+}
+
+void paintArrow(QPainter& p, const QSizeF& s, bool left)
+{
+    QPainterPath arrow;
+    const qreal cx = s.width() / 2;
+    const qreal cy = s.height() / 2;
+    const qreal a = qMin(s.width(), s.height()) * 0.28;
+    const qreal dir = left ? -1 : 1;
+    arrow.moveTo(cx + dir * a, cy);
+    arrow.lineTo(cx - dir * a * 0.7, cy - a * 1.2);
+    arrow.lineTo(cx - dir * a * 0.7, cy + a * 1.2);
+    arrow.closeSubpath();
+    p.setPen(QPen(QColor(60, 40, 25), 1));
+    p.setBrush(QColor(230, 220, 200));
+    p.drawPath(arrow);
+}
+
+void paintPlay(QPainter& p, const QSizeF& s, bool pressed, bool hover)
+{
+    const QRectF ring(2, 2, s.width() - 4, s.height() - 4);
+    QRadialGradient metal(ring.center() - QPointF(0, ring.height() * 0.2), ring.width() * 0.7);
+    const QColor light = hover ? QColor(170, 170, 172) : QColor(133, 133, 135);
+    metal.setColorAt(0.0, light);
+    metal.setColorAt(0.6, QColor(31, 31, 33));
+    metal.setColorAt(1.0, QColor(60, 60, 62));
+    p.setPen(QPen(pressed ? QColor(240, 226, 196) : QColor(150, 150, 150), 2));
+    p.setBrush(metal);
+    p.drawEllipse(ring);
+    p.setPen(Qt::NoPen);
+    p.setBrush(pressed ? QColor(240, 226, 196) : QColor(235, 235, 235));
+    const QPointF c = ring.center();
+    const qreal a = ring.width() * 0.2;
+    if (pressed) {
+        p.drawRoundedRect(QRectF(c.x() - a, c.y() - a, a * 0.7, a * 2), 1.5, 1.5);
+        p.drawRoundedRect(QRectF(c.x() + a * 0.3, c.y() - a, a * 0.7, a * 2), 1.5, 1.5);
+    } else {
+        QPainterPath triangle;
+        triangle.moveTo(c.x() - a * 0.7, c.y() - a);
+        triangle.lineTo(c.x() + a * 1.1, c.y());
+        triangle.lineTo(c.x() - a * 0.7, c.y() + a);
+        triangle.closeSubpath();
+        p.drawPath(triangle);
+    }
+}
+
+} // namespace
+
+void LookArt::generate(ArtWriter& writer)
+{
+    generateChannels(writer);
+    generateInstruments(writer);
+
+    savePair(writer, QStringLiteral("arrowleft"), QSize(40, 40), [](QPainter& p, const QSizeF& s) { paintArrow(p, s, true); });
+    savePair(writer, QStringLiteral("arrowright"), QSize(40, 40), [](QPainter& p, const QSizeF& s) { paintArrow(p, s, false); });
+    savePair(writer, QStringLiteral("spinbox_button2"), QSize(8, 8), [](QPainter& p, const QSizeF& s) {
+        QPainterPath down;
+        down.moveTo(0.5, 1.5);
+        down.lineTo(s.width() - 0.5, 1.5);
+        down.lineTo(s.width() / 2, s.height() - 1);
+        down.closeSubpath();
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor(220, 220, 220));
+        p.drawPath(down);
+    });
+
+    const QSize play(48, 48);
+    savePair(writer, QStringLiteral("Play"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, false, false); });
+    savePair(writer, QStringLiteral("Play_hvr"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, false, true); });
+    savePair(writer, QStringLiteral("Play_prs"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, true, false); });
+    savePair(writer, QStringLiteral("Play_prs_hvr"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, true, true); });
+}
