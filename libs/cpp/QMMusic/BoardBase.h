@@ -1,0 +1,64 @@
+#pragma once
+
+#include "BoardLayers.h"
+
+#include <QFrame>
+#include <QMap>
+#include <QVector>
+
+class QPushButton;
+
+namespace QMMusic {
+
+// The drawn neck of a fretted instrument: background, one overlay per note,
+// a hit test from a press to a note and the Find Note / Training switch.
+// Concrete boards fill their notes and hit test.
+class BoardBase : public QFrame
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(BoardBase)
+
+public:
+    BoardBase(const QString& instrumentKey, QWidget* parent = nullptr);
+
+    virtual bool isIn(const int& x, const int& y, const QPoint& p) const;
+    virtual QPixmap doSingleNote(const QPixmap& overlay);
+    // Fills the file stems and the training notes.
+    virtual void initNotes() = 0;
+    // Widget point to position name, or an empty string.
+    virtual QString positionToNote(int x, int y) const = 0;
+
+    // Enters every stem into the overlay map.
+    void createLayers();
+    void setTrainButtonChecked();
+    bool isInTraining() const;
+    QString currentNote() const;
+    QString instrumentKey() const;
+    const QMap<QString, QString>& overlayMap() const;
+
+public slots:
+    void slotSetNote(const QString& name, int accidental);
+    void slotNextNote();
+    void slotSetInTraining(bool inTraining);
+
+signals:
+    void noteChanged(const QString& name, int accidental);
+    void traningSelected();
+    void findNoteSelected();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+    QString m_currentNote;
+    BoardLayers m_layers;
+    QMap<QString, QString> m_overlayMap;
+    QPushButton* m_trainingButton = nullptr;
+    bool m_inTraining = false;
+    QString m_instrumentKey;
+    QList<QString> m_fileStems;
+    QVector<QString> m_trainingNotes;
+};
+
+} // namespace QMMusic

@@ -1,0 +1,151 @@
+#include "GuitarBoard.h"
+
+#include "AudioPoolPlayer.h"
+#include "BoardModeSwitch.h"
+#include "GuitarFretMap.h"
+#include "NoteSpelling.h"
+#include "OverlayStrip.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QTime>
+
+namespace QMMusic {
+
+GuitarBoard::GuitarBoard(QWidget* parent)
+    : QFrame(parent)
+{
+    QMMultiMedia::AudioPoolPlayer::instance()->setVolume(50);
+
+    const QList<QString> stems = {
+        QStringLiteral("A2"), QStringLiteral("A3"), QStringLiteral("A4"), QStringLiteral("A5"),
+        QStringLiteral("Ad2"), QStringLiteral("Ad3"), QStringLiteral("Ad4"), QStringLiteral("Ad5"),
+        QStringLiteral("B2"), QStringLiteral("B3"), QStringLiteral("B4"), QStringLiteral("B5"),
+        QStringLiteral("C3"), QStringLiteral("C4"), QStringLiteral("C5"), QStringLiteral("C6"),
+        QStringLiteral("Cd3"), QStringLiteral("Cd4"), QStringLiteral("Cd5"), QStringLiteral("Cd6"),
+        QStringLiteral("D3"), QStringLiteral("D4"), QStringLiteral("D5"), QStringLiteral("D6"),
+        QStringLiteral("Dd3"), QStringLiteral("Dd4"), QStringLiteral("Dd5"),
+        QStringLiteral("E2"), QStringLiteral("E3"), QStringLiteral("E4"), QStringLiteral("E5"),
+        QStringLiteral("F2"), QStringLiteral("F3"), QStringLiteral("F4"), QStringLiteral("F5"),
+        QStringLiteral("Fd2"), QStringLiteral("Fd3"), QStringLiteral("Fd4"), QStringLiteral("Fd5"),
+        QStringLiteral("G2"), QStringLiteral("G3"), QStringLiteral("G4"), QStringLiteral("G5"),
+        QStringLiteral("Gd2"), QStringLiteral("Gd3"), QStringLiteral("Gd4"), QStringLiteral("Gd5"),
+    };
+    for (const QString& stem : stems) {
+        m_overlayMap.insert(QStringLiteral(":/Guitar_%1.png").arg(stem),
+                            QStringLiteral(":/Guitar_") + stem + QStringLiteral("@2x.png"));
+    }
+    m_trainingNotes = GuitarFretMap::noteOrder();
+
+    const BoardModeSwitch modeSwitch(this, tr("Find Note"), tr("Training"));
+    m_trainingButton = modeSwitch.trainingButton();
+    connect(m_trainingButton, &QPushButton::clicked, this, &GuitarBoard::traningSelected);
+    connect(modeSwitch.findNoteButton(), &QPushButton::clicked, this, &GuitarBoard::findNoteSelected);
+}
+
+QString GuitarBoard::positionToNote(int x, int y) const
+{
+    return GuitarFretMap::noteAt(x, y, width(), height());
+}
+
+bool GuitarBoard::isIn(const int& x, const int& y, const QPoint& p) const
+{
+    return GuitarFretMap::boxContains(x, y, p);
+}
+
+QPixmap GuitarBoard::doSingleNote(const QPixmap& overlay)
+{
+    return OverlayStrip::keepRandomStrip(overlay, BoardLayers::pixelRatio());
+}
+
+void GuitarBoard::setTrainButtonChecked()
+{
+    m_trainingButton->setChecked(true);
+}
+
+bool GuitarBoard::isInTraining() const
+{
+    return m_inTraining;
+}
+
+QString GuitarBoard::currentNote() const
+{
+    return m_currentNote;
+}
+
+const QMap<QString, QString>& GuitarBoard::overlayMap() const
+{
+    return m_overlayMap;
+}
+
+const QVector<QString>& GuitarBoard::trainingNotes() const
+{
+    return m_trainingNotes;
+}
+
+void GuitarBoard::slotSetNote(const QString& name, int accidental)
+{
+    m_currentNote = NoteSpelling::stem(name, accidental);
+    update();
+}
+
+void GuitarBoard::slotNextNote()
+{
+    if (m_trainingNotes.isEmpty())
+        return;
+    QRandomGenerator generator(quint32(QTime::currentTime().msec()));
+    const QString position = m_trainingNotes.at(int(generator.generate() % quint32(m_trainingNotes.size())));
+    const QString name = NoteSpelling::positionNoteName(position);
+    const int sharp = NoteSpelling::positionAccidental(position);
+    slotSetNote(name, sharp);
+    emit noteChanged(name, sharp);
+}
+
+void GuitarBoard::slotSetInTraining(bool inTraining)
+{
+    m_inTraining = inTraining;
+    update();
+}
+
+void GuitarBoard::paintEvent(QPaintEvent* event)
+{
+    Q_UNUSED(event)
+    QPainter painter(this);
+    m_layers.drawBackground(painter, rect());
+    if (m_currentNote.isEmpty())
+        return;
+    const QString file = m_overlayMap[QStringLiteral(":/Guitar_%1.png").arg(m_currentNote)];
+    if (m_inTraining)
+        BoardLayers::drawScaled(painter, rect(), doSingleNote(m_layers.overlay(file)));
+    else
+        m_layers.drawOverlay(painter, rect(), file);
+}
+
+void GuitarBoard::mousePressEvent(QMouseEvent* event)
+{
+    if (m_inTraining) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    const QString position = positionToNote(event->pos().x(), event->pos().y());
+    if (position.isEmpty())
+        return;
+    const QString name = NoteSpelling::positionNoteName(position);
+    const int sharp = NoteSpelling::positionAccidental(position);
+    slotSetNote(name, sharp);
+    emit noteChanged(name, sharp);
+    QMMultiMedia::AudioPoolPlayer::instance()->play(
+        NoteSpelling::samplePath(QStringLiteral("Guitar"), NoteSpelling::positionStem(position)));
+}
+
+void GuitarBoard::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    const int height = m_layers.heightForWidth(width());
+    if (height > 0)
+        setFixedHeight(height);
+}
+
+} // namespace QMMusic
