@@ -1,0 +1,461 @@
+#include "NeckArt.h"
+
+#include "ArtWriter.h"
+#include "GuitarFretMap.h"
+#include "NeckGeometry.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRadialGradient>
+#include <QtMath>
+
+#include <cmath>
+
+using QMMusic::GuitarFretMap;
+
+namespace {
+
+const QSize kLargeSize(2048, 497);
+const QSize kSmallSize(800, 194);
+const double kSx = 2048.0 / GuitarFretMap::DesignWidth;
+const double kSy = 497.0 / GuitarFretMap::DesignHeight;
+// Mark diameter in the 2048 px picture.
+const double kMarkDiameter = 87.0;
+
+QPointF toPicture(double x, double y)
+{
+    return QPointF(x * kSx, y * kSy);
+}
+
+// Deterministic lattice noise: a hash of the lattice point, smoothly blended.
+double hash(int x, int y, int seed)
+{
+    quint32 h = quint32(x) * 374761393u + quint32(y) * 668265263u + quint32(seed) * 2246822519u;
+    h = (h ^ (h >> 13)) * 1274126177u;
+    h ^= h >> 16;
+    return (h & 0xffffff) / double(0xffffff);
+}
+
+double valueNoise(double x, double y, int seed)
+{
+    const int xi = int(std::floor(x));
+    const int yi = int(std::floor(y));
+    const double fx = x - xi;
+    const double fy = y - yi;
+    const double ux = fx * fx * (3 - 2 * fx);
+    const double uy = fy * fy * (3 - 2 * fy);
+    const double a = hash(xi, yi, seed);
+    const double b = hash(xi + 1, yi, seed);
+    const double c = hash(xi, yi + 1, seed);
+    const double d = hash(xi + 1, yi + 1, seed);
+    return (a + (b - a) * ux) + ((c + (d - c) * ux) - (a + (b - a) * ux)) * uy;
+}
+
+double fbm(double x, double y, int seed)
+{
+    double sum = 0, amplitude = 0.5, total = 0;
+    for (int octave = 0; octave < 4; ++octave) {
+        sum += amplitude * valueNoise(x, y, seed + octave * 17);
+        total += amplitude;
+        x *= 2.03;
+        y *= 2.03;
+        amplitude *= 0.5;
+    }
+    return sum / total;
+}
+
+QRgb mix(const QColor& a, const QColor& b, double t, double light)
+{
+    t = qBound(0.0, t, 1.0);
+    auto channel = [&](int ca, int cb) { return qBound(0, int((ca + (cb - ca) * t) * light), 255); };
+    return qRgb(channel(a.red(), b.red()), channel(a.green(), b.green()), channel(a.blue(), b.blue()));
+}
+
+// A flat wood texture, grain running along its width; darker towards the
+// long edges, where the board curves away from the light.
+QImage woodTexture(const QSize& size, const QColor& dark, const QColor& light, int seed)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int v = 0; v < size.height(); ++v) {
+        QRgb* line = reinterpret_cast<QRgb*>(image.scanLine(v));
+        const double across = double(v) / (size.height() - 1);
+        const double edge = 0.72 + 0.28 * std::sin(M_PI * across);
+        for (int u = 0; u < size.width(); ++u) {
+            const double warp = 40.0 * valueNoise(u * 0.0025, v * 0.012, seed + 3);
+            const double vv = v + warp;
+            const double streak = fbm(u * 0.0022, vv * 0.07, seed);
+            const double fine = valueNoise(u * 0.03, vv * 0.55, seed + 7);
+            double t = 0.65 * streak + 0.35 * fine;
+            t = std::pow(qBound(0.0, (t - 0.25) / 0.55, 1.0), 1.4);
+            double shade = edge;
+            const double pore = valueNoise(u * 0.09, vv * 1.3, seed + 11);
+            if (pore > 0.8)
+                shade *= 0.62 + (1.0 - pore) * 1.2;
+            line[u] = mix(dark, light, t, shade);
+        }
+    }
+    return image;
+}
+
+// Fills the quad (picture coordinates) with the texture in perspective.
+void mapTexture(QPainter& painter, const QImage& texture, const QPolygonF& quad)
+{
+    const double w = texture.width();
+    const double h = texture.height();
+    const QPolygonF flat({ QPointF(0, 0), QPointF(w, 0), QPointF(w, h), QPointF(0, h) });
+    QTransform transform;
+    if (!QTransform::quadToQuad(flat, quad, transform))
+        return;
+    painter.save();
+    QPainterPath clip;
+    clip.addPolygon(quad);
+    painter.setClipPath(clip);
+    painter.setTransform(transform);
+    painter.drawImage(QPointF(0, 0), texture);
+    painter.restore();
+}
+
+void drawBackdrop(QPainter& painter)
+{
+    QLinearGradient ground(0, 0, 0, kLargeSize.height());
+    ground.setColorAt(0.0, QColor(38, 34, 36));
+    ground.setColorAt(0.5, QColor(27, 24, 26));
+    ground.setColorAt(1.0, QColor(16, 14, 16));
+    painter.fillRect(QRect(QPoint(0, 0), kLargeSize), ground);
+
+    QRadialGradient glow(QPointF(kLargeSize.width() * 0.55, kLargeSize.height() * 0.45), kLargeSize.width() * 0.6);
+    glow.setColorAt(0.0, QColor(90, 70, 55, 60));
+    glow.setColorAt(1.0, QColor(0, 0, 0, 0));
+    painter.fillRect(QRect(QPoint(0, 0), kLargeSize), glow);
+}
+
+QPolygonF boardQuad(const NeckGeometry& g, double left, double right)
+{
+    return QPolygonF({ toPicture(left, g.boardTop(left)), toPicture(right, g.boardTop(right)),
+                       toPicture(right, g.boardBottom(right)), toPicture(left, g.boardBottom(left)) });
+}
+
+void drawNeckShadowAndSide(QPainter& painter, const NeckGeometry& g, double nut)
+{
+    // Soft shadow of the neck on the ground below it.
+    for (int i = 6; i >= 1; --i) {
+        const double grow = i * 2.2;
+        QPolygonF shadow({ toPicture(-2, g.boardTop(-2) + 4), toPicture(802, g.boardTop(802) + 4),
+                           toPicture(802, g.boardBottom(802) + 6 + grow), toPicture(-2, g.boardBottom(-2) + 6 + grow) });
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0, 0, 0, 22));
+        painter.drawPolygon(shadow);
+    }
+
+    // The side of the neck, seen below the fingerboard: mahogany in shade.
+    QPolygonF side({ toPicture(nut, g.boardBottom(nut)), toPicture(802, g.boardBottom(802)),
+                     toPicture(802, g.boardBottom(802) + 0.55 * g.spacing(802)),
+                     toPicture(nut, g.boardBottom(nut) + 0.55 * g.spacing(nut)) });
+    QLinearGradient wood(0, g.boardBottom(400) * kSy, 0, (g.boardBottom(400) + 0.55 * g.spacing(400)) * kSy);
+    wood.setColorAt(0.0, QColor(120, 66, 36));
+    wood.setColorAt(1.0, QColor(52, 26, 14));
+    painter.setBrush(wood);
+    painter.drawPolygon(side);
+}
+
+void drawHeadstock(QPainter& painter, const NeckGeometry& g, double nut)
+{
+    // The face flares out from the nut towards the tuners.
+    QPainterPath face;
+    const double topNut = g.boardTop(nut);
+    const double bottomNut = g.boardBottom(nut);
+    face.moveTo(toPicture(nut, topNut));
+    face.cubicTo(toPicture(nut - 30, topNut - 1), toPicture(nut - 60, topNut - 12), toPicture(-5, topNut - 16));
+    face.lineTo(toPicture(-5, bottomNut + 14));
+    face.cubicTo(toPicture(nut - 60, bottomNut + 10), toPicture(nut - 30, bottomNut + 1), toPicture(nut, bottomNut));
+    face.closeSubpath();
+
+    // Shadow cast by the headstock on the ground.
+    painter.save();
+    painter.translate(0, 8 * kSy);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 70));
+    painter.drawPath(face);
+    painter.restore();
+
+    const QImage veneer = woodTexture(QSize(420, 260), QColor(14, 11, 10), QColor(58, 38, 28), 91);
+    painter.save();
+    painter.setClipPath(face);
+    const QPolygonF quad({ toPicture(-5, topNut - 16), toPicture(nut, topNut), toPicture(nut, bottomNut),
+                           toPicture(-5, bottomNut + 14) });
+    mapTexture(painter, veneer, quad);
+    // Gloss of the lacquer.
+    QLinearGradient gloss(0, (topNut - 16) * kSy, 0, (bottomNut + 14) * kSy);
+    gloss.setColorAt(0.0, QColor(255, 255, 255, 40));
+    gloss.setColorAt(0.35, QColor(255, 255, 255, 8));
+    gloss.setColorAt(1.0, QColor(0, 0, 0, 60));
+    painter.fillPath(face, gloss);
+    painter.restore();
+
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(222, 206, 170), 2.2));
+    painter.drawPath(face);
+}
+
+void drawFingerboard(QPainter& painter, const NeckGeometry& g, double nut)
+{
+    const QImage rosewood = woodTexture(QSize(2400, 300), QColor(40, 20, 14), QColor(118, 62, 38), 17);
+    mapTexture(painter, rosewood, boardQuad(g, nut, 803));
+
+    // Cream binding along both edges.
+    painter.setPen(QPen(QColor(226, 212, 178), 2.6));
+    painter.drawLine(toPicture(nut, g.boardTop(nut)), toPicture(803, g.boardTop(803)));
+    painter.setPen(QPen(QColor(200, 184, 150), 3.2));
+    painter.drawLine(toPicture(nut, g.boardBottom(nut)), toPicture(803, g.boardBottom(803)));
+}
+
+void drawPearl(QPainter& painter, const QPointF& centre, double radius, int seed)
+{
+    QRadialGradient base(centre - QPointF(radius * 0.3, radius * 0.35), radius * 1.3);
+    base.setColorAt(0.0, QColor(252, 250, 244));
+    base.setColorAt(0.6, QColor(226, 228, 222));
+    base.setColorAt(1.0, QColor(178, 182, 190));
+    painter.setPen(QPen(QColor(60, 40, 30, 160), 1.0));
+    painter.setBrush(base);
+    painter.drawEllipse(centre, radius, radius);
+
+    // The play of colours of mother-of-pearl.
+    QConicalGradient shimmer(centre, seed * 47 % 360);
+    shimmer.setColorAt(0.0, QColor(255, 190, 210, 70));
+    shimmer.setColorAt(0.25, QColor(190, 255, 220, 60));
+    shimmer.setColorAt(0.5, QColor(180, 210, 255, 75));
+    shimmer.setColorAt(0.75, QColor(255, 240, 190, 55));
+    shimmer.setColorAt(1.0, QColor(255, 190, 210, 70));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(shimmer);
+    painter.drawEllipse(centre, radius * 0.92, radius * 0.92);
+
+    painter.setBrush(QColor(255, 255, 255, 150));
+    painter.drawEllipse(centre - QPointF(radius * 0.35, radius * 0.35), radius * 0.28, radius * 0.2);
+}
+
+void drawInlays(QPainter& painter, const NeckGeometry& g)
+{
+    const int frets[] = { 3, 5, 7, 9, 12, 15, 17, 19, 21 };
+    for (int fret : frets) {
+        const double x = g.cellMiddle(fret);
+        const double cellWidth = g.wires().at(fret) - g.wires().at(fret - 1);
+        const double radius = qMin(0.42 * g.spacing(x), 0.34 * cellWidth) * kSx;
+        if (fret == 12) {
+            drawPearl(painter, toPicture(x, (g.stringY(2, x) + g.stringY(3, x)) / 2), radius, fret);
+            drawPearl(painter, toPicture(x, (g.stringY(4, x) + g.stringY(5, x)) / 2), radius, fret + 1);
+        } else {
+            drawPearl(painter, toPicture(x, (g.stringY(3, x) + g.stringY(4, x)) / 2), radius, fret);
+        }
+        // Side dot on the binding.
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(245, 242, 232));
+        painter.drawEllipse(toPicture(x, g.boardBottom(x) + 0.25 * g.spacing(x)), 3.0, 2.6);
+    }
+}
+
+void drawFrets(QPainter& painter, const NeckGeometry& g)
+{
+    const QVector<double>& wires = g.wires();
+    for (int fret = 1; fret < wires.size(); ++fret) {
+        const double x = wires.at(fret);
+        const double scale = g.spacing(x) / g.spacing(wires.first());
+        const double half = 0.75 * scale;
+        const double top = g.boardTop(x) - 0.2;
+        const double bottom = g.boardBottom(x) + 0.3;
+
+        // Shadow on the wood behind the wire.
+        QLinearGradient shade(toPicture(x + half, 0), toPicture(x + half + 2.4 * scale, 0));
+        shade.setColorAt(0.0, QColor(0, 0, 0, 140));
+        shade.setColorAt(1.0, QColor(0, 0, 0, 0));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(shade);
+        painter.drawPolygon(QPolygonF({ toPicture(x + half, top + 0.6), toPicture(x + half + 2.4 * scale, top + 0.6),
+                                        toPicture(x + half + 2.4 * scale, bottom), toPicture(x + half, bottom) }));
+
+        QLinearGradient nickel(toPicture(x - half, 0), toPicture(x + half, 0));
+        nickel.setColorAt(0.0, QColor(88, 88, 92));
+        nickel.setColorAt(0.3, QColor(238, 238, 242));
+        nickel.setColorAt(0.55, QColor(182, 182, 188));
+        nickel.setColorAt(1.0, QColor(78, 78, 84));
+        painter.setBrush(nickel);
+        const QRectF wire(toPicture(x - half, top), toPicture(x + half, bottom));
+        painter.drawRoundedRect(wire, wire.width() / 2, wire.width() / 2);
+    }
+}
+
+void drawNut(QPainter& painter, const NeckGeometry& g, double nut)
+{
+    const double left = nut - 3.6;
+    const double right = nut + 1.8;
+    const QRectF bone(toPicture(left, g.boardTop(nut) - 1.2), toPicture(right, g.boardBottom(nut) + 1.0));
+    QLinearGradient shade(bone.topLeft(), bone.topRight());
+    shade.setColorAt(0.0, QColor(196, 184, 156));
+    shade.setColorAt(0.35, QColor(246, 240, 222));
+    shade.setColorAt(0.8, QColor(226, 216, 190));
+    shade.setColorAt(1.0, QColor(150, 136, 108));
+    painter.setPen(QPen(QColor(90, 76, 56), 1.0));
+    painter.setBrush(shade);
+    painter.drawRoundedRect(bone, 2.5, 2.5);
+
+    // Slots where the strings sit.
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(110, 96, 72, 200));
+    for (int string = 1; string <= GuitarFretMap::StringCount; ++string) {
+        const double y = g.stringY(string, nut) * kSy;
+        const double h = 1.2 + 0.35 * string;
+        painter.drawRect(QRectF(bone.left() + 1, y - h / 2, bone.width() - 2, h));
+    }
+}
+
+// Left end of each string: its tuner post on the headstock.
+double postX(int string)
+{
+    return 74.0 - (string - 1) * 11.0;
+}
+
+void drawPosts(QPainter& painter, const NeckGeometry& g)
+{
+    for (int string = 1; string <= GuitarFretMap::StringCount; ++string) {
+        const QPointF centre = toPicture(postX(string), g.stringY(string, postX(string)));
+        const double bushing = 11.5;
+        const double post = 7.0;
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0, 0, 0, 90));
+        painter.drawEllipse(centre + QPointF(2, 4), bushing, bushing);
+
+        QRadialGradient ring(centre - QPointF(4, 4), bushing * 1.6);
+        ring.setColorAt(0.0, QColor(250, 250, 252));
+        ring.setColorAt(0.5, QColor(160, 162, 168));
+        ring.setColorAt(1.0, QColor(70, 72, 78));
+        painter.setBrush(ring);
+        painter.drawEllipse(centre, bushing, bushing);
+
+        QRadialGradient top(centre - QPointF(2, 2), post * 1.5);
+        top.setColorAt(0.0, QColor(255, 255, 255));
+        top.setColorAt(0.6, QColor(190, 192, 198));
+        top.setColorAt(1.0, QColor(96, 98, 104));
+        painter.setBrush(top);
+        painter.drawEllipse(centre, post, post);
+        painter.setBrush(QColor(40, 40, 44));
+        painter.drawRect(QRectF(centre.x() - post * 0.7, centre.y() - 0.8, post * 1.4, 1.6));
+    }
+}
+
+// A straight band along a string from x0 to x1 whose width grows with the
+// perspective, offset across the string by a fraction of its width.
+QPolygonF stringBand(const NeckGeometry& g, int string, double x0, double x1, double width0, double fraction,
+                     double offset)
+{
+    const double s0 = g.spacing(x0) / g.spacing(0);
+    const double s1 = g.spacing(x1) / g.spacing(0);
+    const double w0 = width0 * s0 * fraction / 2;
+    const double w1 = width0 * s1 * fraction / 2;
+    const double c0 = g.stringY(string, x0) * kSy + offset * width0 * s0;
+    const double c1 = g.stringY(string, x1) * kSy + offset * width0 * s1;
+    return QPolygonF({ QPointF(x0 * kSx, c0 - w0), QPointF(x1 * kSx, c1 - w1), QPointF(x1 * kSx, c1 + w1),
+                       QPointF(x0 * kSx, c0 + w0) });
+}
+
+void drawStrings(QPainter& painter, const NeckGeometry& g, double nut)
+{
+    // Width in picture pixels at the left edge, E4 to E2.
+    const double widths[GuitarFretMap::StringCount] = { 1.6, 2.0, 2.6, 3.4, 4.2, 5.0 };
+    const double end = 803;
+    for (int string = 1; string <= GuitarFretMap::StringCount; ++string) {
+        const double start = postX(string);
+        const double width = widths[string - 1];
+        const bool wound = string >= 4;
+
+        // Shadow on the board: the string hangs a little above the wood.
+        painter.setPen(Qt::NoPen);
+        for (int i = 0; i < 3; ++i) {
+            painter.setBrush(QColor(0, 0, 0, 45));
+            painter.drawPolygon(stringBand(g, string, nut, end, width, 1.4 + i * 0.8, 2.2 + i * 0.3));
+        }
+
+        const QColor dark = wound ? QColor(74, 64, 48) : QColor(62, 64, 68);
+        const QColor body = wound ? QColor(176, 160, 128) : QColor(176, 178, 184);
+        const QColor shine = wound ? QColor(250, 240, 214) : QColor(252, 252, 255);
+        painter.setBrush(dark);
+        painter.drawPolygon(stringBand(g, string, start, end, width, 1.0, 0.0));
+        painter.setBrush(body);
+        painter.drawPolygon(stringBand(g, string, start, end, width, 0.7, -0.08));
+        painter.setBrush(shine);
+        painter.drawPolygon(stringBand(g, string, start, end, width, 0.28, -0.18));
+
+        if (!wound)
+            continue;
+        // Windings: fine slanted grooves across the string.
+        painter.setPen(QPen(QColor(40, 32, 22, 150), 0.7));
+        double x = start * kSx;
+        while (x < end * kSx) {
+            const double w = width * g.spacing(x / kSx) / g.spacing(0);
+            const double y = g.stringY(string, x / kSx) * kSy;
+            painter.drawLine(QPointF(x, y - w / 2), QPointF(x + w * 0.4, y + w / 2));
+            x += qMax(1.6, w * 0.62);
+        }
+    }
+}
+
+} // namespace
+
+QImage NeckArt::drawNeck(const NeckGeometry& geometry)
+{
+    const double nut = geometry.wires().first();
+    QImage image(kLargeSize, QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+
+    drawBackdrop(painter);
+    drawNeckShadowAndSide(painter, geometry, nut);
+    drawHeadstock(painter, geometry, nut);
+    drawFingerboard(painter, geometry, nut);
+    drawInlays(painter, geometry);
+    drawFrets(painter, geometry);
+    drawNut(painter, geometry, nut);
+    drawPosts(painter, geometry);
+    drawStrings(painter, geometry, nut);
+    painter.end();
+    return image;
+}
+
+QImage NeckArt::drawOverlay(const QString& stem, const QSize& size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double sx = double(size.width()) / GuitarFretMap::DesignWidth;
+    const double sy = double(size.height()) / GuitarFretMap::DesignHeight;
+    const double radius = kMarkDiameter / 2 * size.width() / kLargeSize.width();
+
+    for (const NeckGeometry::Place& place : NeckGeometry::places(stem)) {
+        const QPoint box = GuitarFretMap::centre(place.string, place.column);
+        const QPointF centre(box.x() * sx, box.y() * sy);
+        QRadialGradient spot(centre - QPointF(radius * 0.25, radius * 0.3), radius * 1.25);
+        spot.setColorAt(0.0, QColor(96, 224, 224, 236));
+        spot.setColorAt(1.0, QColor(64, 192, 224, 236));
+        painter.setPen(QPen(QColor(72, 200, 224, 255), qMax(1.0, radius * 0.08)));
+        painter.setBrush(spot);
+        painter.drawEllipse(centre, radius - radius * 0.04, radius - radius * 0.04);
+    }
+    painter.end();
+    return image.convertToFormat(QImage::Format_ARGB32);
+}
+
+void NeckArt::generate(ArtWriter& writer)
+{
+    const NeckGeometry geometry;
+    const QImage neck = drawNeck(geometry);
+    writer.addPicture(QStringLiteral("Guitar_0@2x.jpg"), neck, 90);
+    writer.addPicture(QStringLiteral("Guitar_0.jpg"),
+                      neck.scaled(kSmallSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), 90);
+
+    for (const QString& stem : NeckGeometry::stems()) {
+        writer.addPicture(QStringLiteral("Guitar_%1@2x.png").arg(stem), drawOverlay(stem, kLargeSize));
+        writer.addPicture(QStringLiteral("Guitar_%1.png").arg(stem), drawOverlay(stem, kSmallSize));
+    }
+}
