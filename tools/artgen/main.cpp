@@ -1,6 +1,7 @@
 // artgen: draws the program's pictures and synthesises its samples.
 #include "ArtWriter.h"
 #include "LookArt.h"
+#include "NeckArt.h"
 
 #include <QCommandLineParser>
 #include <QFontDatabase>
@@ -22,6 +23,7 @@ int main(int argc, char* argv[])
 
     ArtWriter writer(parser.value(picturesOption), parser.value(bundleOption));
     LookArt::generate(writer);
+    NeckArt::generate(writer);
 
     return writer.writeQrc(parser.value(picturesOption) + QStringLiteral("/art.qrc")) ? 0 : 1;
 }
