@@ -2,6 +2,7 @@
 #include "ArtWriter.h"
 #include "LookArt.h"
 #include "NeckArt.h"
+#include "PageArt.h"
 
 #include <QCommandLineParser>
 #include <QFontDatabase>
@@ -24,6 +25,7 @@ int main(int argc, char* argv[])
     ArtWriter writer(parser.value(picturesOption), parser.value(bundleOption));
     LookArt::generate(writer);
     NeckArt::generate(writer);
+    PageArt::generate(writer);
 
     return writer.writeQrc(parser.value(picturesOption) + QStringLiteral("/art.qrc")) ? 0 : 1;
 }
