@@ -1,0 +1,79 @@
+#include "Label.h"
+
+#include "App.h"
+
+#include <QPainter>
+
+namespace QMWidgets {
+
+Label::Label(QWidget* parent)
+    : QLabel(parent)
+{
+}
+
+void Label::setMode(Mode mode)
+{
+    if (m_mode == mode)
+        return;
+    m_mode = mode;
+    m_scaledPixmap = QPixmap();
+    update();
+}
+
+Label::Mode Label::mode() const
+{
+    return m_mode;
+}
+
+void Label::setRetinaPixmap(const QPixmap& pixmap)
+{
+    m_pixmap = pixmap;
+    m_scaledPixmap = QPixmap();
+    update();
+}
+
+QSize Label::scaledPictureSize(const QSize& pictureSize, const QSize& labelSize, qreal ratio, Mode mode)
+{
+    const QSize target(qRound(labelSize.width() * ratio), qRound(labelSize.height() * ratio));
+    return pictureSize.scaled(target, mode == Fit ? Qt::KeepAspectRatio : Qt::KeepAspectRatioByExpanding);
+}
+
+QRectF Label::pictureRect(const QSize& pictureSize, const QSize& labelSize, qreal ratio, Mode mode)
+{
+    const QSize pixels = scaledPictureSize(pictureSize, labelSize, ratio, mode);
+    const qreal width = pixels.width() / ratio;
+    const qreal height = pixels.height() / ratio;
+    if (mode != Fit)
+        return QRectF(0.0, 0.0, width, height);
+    return QRectF((labelSize.width() - width) * 0.5, (labelSize.height() - height) * 0.5, width, height);
+}
+
+void Label::updateScaledPixmap(qreal ratio)
+{
+    m_scaledForSize = size();
+    m_scaledForRatio = ratio;
+    const QSize pixels = scaledPictureSize(m_pixmap.size(), size(), ratio, m_mode);
+    m_scaledPixmap = pixels.isEmpty() ? QPixmap()
+                                      : m_pixmap.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+void Label::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+    if (m_pixmap.isNull())
+        return;
+
+    const App* app = App::theApp();
+    const qreal ratio = app ? app->devicePixelRatio() : devicePixelRatioF();
+    if (m_scaledPixmap.isNull() || m_scaledForSize != size() || !qFuzzyCompare(m_scaledForRatio, ratio))
+        updateScaledPixmap(ratio);
+    if (m_scaledPixmap.isNull())
+        return;
+
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(pictureRect(m_pixmap.size(), size(), ratio, m_mode), m_scaledPixmap,
+                       QRectF(m_scaledPixmap.rect()));
+}
+
+} // namespace QMWidgets

@@ -1,0 +1,100 @@
+#include "Label.h"
+
+#include <QPainter>
+#include <QtTest>
+
+using QMWidgets::Label;
+
+class TestLabel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void pictureRect_data();
+    void pictureRect();
+    void paintsCentredInFitMode_data();
+    void paintsCentredInFitMode();
+};
+
+void TestLabel::pictureRect_data()
+{
+    QTest::addColumn<QSize>("picture");
+    QTest::addColumn<QSize>("label");
+    QTest::addColumn<qreal>("ratio");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QRectF>("expected");
+    QTest::addColumn<QSize>("pixels");
+
+    QTest::newRow("fit: wide picture, tall label, ratio 1")
+        << QSize(200, 100) << QSize(100, 300) << 1.0 << int(Label::Fit) << QRectF(0, 125, 100, 50) << QSize(100, 50);
+    QTest::newRow("fit: wide picture, tall label, ratio 2")
+        << QSize(200, 100) << QSize(100, 300) << 2.0 << int(Label::Fit) << QRectF(0, 125, 100, 50) << QSize(200, 100);
+    QTest::newRow("fit: tall picture, wide label, ratio 1")
+        << QSize(100, 200) << QSize(300, 100) << 1.0 << int(Label::Fit) << QRectF(125, 0, 50, 100) << QSize(50, 100);
+    QTest::newRow("fit: small picture grows to the label")
+        << QSize(10, 10) << QSize(60, 40) << 2.0 << int(Label::Fit) << QRectF(10, 0, 40, 40) << QSize(80, 80);
+    QTest::newRow("fill: wide picture covers a tall label from the corner")
+        << QSize(200, 100) << QSize(100, 300) << 1.0 << int(Label::Fill) << QRectF(0, 0, 600, 300)
+        << QSize(600, 300);
+    QTest::newRow("fill: ratio 2 keeps logical size")
+        << QSize(600, 1033) << QSize(300, 300) << 2.0 << int(Label::Fill) << QRectF(0, 0, 300, 516.5)
+        << QSize(600, 1033);
+}
+
+void TestLabel::pictureRect()
+{
+    QFETCH(QSize, picture);
+    QFETCH(QSize, label);
+    QFETCH(qreal, ratio);
+    QFETCH(int, mode);
+    QFETCH(QRectF, expected);
+    QFETCH(QSize, pixels);
+
+    QCOMPARE(Label::scaledPictureSize(picture, label, ratio, Label::Mode(mode)), pixels);
+    QCOMPARE(Label::pictureRect(picture, label, ratio, Label::Mode(mode)), expected);
+}
+
+void TestLabel::paintsCentredInFitMode_data()
+{
+    QTest::addColumn<QSize>("picture");
+    QTest::addColumn<QSize>("label");
+    QTest::addColumn<QRect>("covered");
+
+    QTest::newRow("wide picture in tall label") << QSize(40, 20) << QSize(60, 120) << QRect(0, 45, 60, 30);
+    QTest::newRow("tall picture in wide label") << QSize(20, 40) << QSize(120, 60) << QRect(45, 0, 30, 60);
+}
+
+void TestLabel::paintsCentredInFitMode()
+{
+    QFETCH(QSize, picture);
+    QFETCH(QSize, label);
+    QFETCH(QRect, covered);
+
+    QPixmap red(picture);
+    red.fill(Qt::red);
+    Label widget;
+    widget.setAutoFillBackground(true);
+    QPalette palette = widget.palette();
+    palette.setColor(QPalette::Window, Qt::white);
+    widget.setPalette(palette);
+    widget.resize(label);
+    widget.setRetinaPixmap(red);
+
+    const QImage image = widget.grab().toImage();
+    QCOMPARE(image.size(), label);
+    for (int y = 0; y < label.height(); y += 3) {
+        for (int x = 0; x < label.width(); x += 3) {
+            // Edge pixels may be blended by smooth scaling.
+            const QRect inner = covered.adjusted(1, 1, -1, -1);
+            const QRect outer = covered.adjusted(-1, -1, 1, 1);
+            const QRgb pixel = image.pixel(x, y);
+            if (inner.contains(x, y))
+                QVERIFY2(pixel == qRgb(255, 0, 0), qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+            else if (!outer.contains(x, y))
+                QVERIFY2(pixel == qRgb(255, 255, 255), qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+        }
+    }
+}
+
+QTEST_MAIN(TestLabel)
+#include "tst_Label.moc"
