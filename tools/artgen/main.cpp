@@ -1,6 +1,8 @@
 // artgen: draws the program's pictures and synthesises its samples.
 #include "ArtWriter.h"
+#include "GuitarSampleSynth.h"
 #include "LookArt.h"
+#include "MetronomeSoundSynth.h"
 #include "NeckArt.h"
 #include "PageArt.h"
 
@@ -26,6 +28,8 @@ int main(int argc, char* argv[])
     LookArt::generate(writer);
     NeckArt::generate(writer);
     PageArt::generate(writer);
+    GuitarSampleSynth::generate(writer);
+    MetronomeSoundSynth::generate(writer);
 
     return writer.writeQrc(parser.value(picturesOption) + QStringLiteral("/art.qrc")) ? 0 : 1;
 }

@@ -1,10 +1,15 @@
 #include "AudioPoolPlayer.h"
 
+#include "AudioPlayersPool.h"
+
 namespace QMMultiMedia {
 
 AudioPoolPlayer* AudioPoolPlayer::m_uniqueInstance = nullptr;
 
-AudioPoolPlayer::AudioPoolPlayer() = default;
+AudioPoolPlayer::AudioPoolPlayer()
+    : m_pool(new AudioPlayersPool(-1, this))
+{
+}
 
 AudioPoolPlayer* AudioPoolPlayer::instance()
 {
@@ -15,12 +20,17 @@ AudioPoolPlayer* AudioPoolPlayer::instance()
 
 void AudioPoolPlayer::play(const QString& path)
 {
-    Q_UNUSED(path)
+    m_pool->play(path);
 }
 
 void AudioPoolPlayer::setVolume(int volume)
 {
-    Q_UNUSED(volume)
+    m_pool->setVolume(volume);
+}
+
+AudioPlayersPool* AudioPoolPlayer::pool() const
+{
+    return m_pool;
 }
 
 } // namespace QMMultiMedia

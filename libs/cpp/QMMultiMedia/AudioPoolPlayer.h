@@ -4,6 +4,8 @@
 
 namespace QMMultiMedia {
 
+class AudioPlayersPool;
+
 // The single front door through which every sample of the program sounds.
 class AudioPoolPlayer : public QObject
 {
@@ -11,13 +13,19 @@ class AudioPoolPlayer : public QObject
     Q_DISABLE_COPY(AudioPoolPlayer)
 
 public:
+    // Made on first use, never destroyed.
     static AudioPoolPlayer* instance();
 
     void play(const QString& path);
+    // Percent for the samples played from now on; sounding ones keep theirs.
     void setVolume(int volume);
+
+    AudioPlayersPool* pool() const;
 
 private:
     AudioPoolPlayer();
+
+    AudioPlayersPool* m_pool = nullptr;
 
     static AudioPoolPlayer* m_uniqueInstance;
 };

@@ -1,0 +1,122 @@
+#include "AudioFileDecoder.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <mpg123.h>
+#include <sndfile.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace QMMultiMedia {
+
+namespace {
+
+struct Mpg123Deleter
+{
+    void operator()(mpg123_handle* handle) const
+    {
+        mpg123_close(handle);
+        mpg123_delete(handle);
+    }
+};
+
+struct SndfileCloser
+{
+    void operator()(SNDFILE* file) const { sf_close(file); }
+};
+
+bool initialiseMpg123()
+{
+    // Needed once by older library versions, harmless with newer ones.
+    static const bool ok = mpg123_init() == MPG123_OK;
+    return ok;
+}
+
+} // namespace
+
+bool AudioFileDecoder::decode(const QString& path, DecodedSound* sound)
+{
+    *sound = DecodedSound();
+    if (!QFileInfo(path).isFile())
+        return false;
+    const bool ok = QFileInfo(path).suffix().compare(QLatin1String("mp3"), Qt::CaseInsensitive) == 0
+        ? decodeMp3(path, sound)
+        : decodeWithSndfile(path, sound);
+    if (!ok || sound->frames() == 0) {
+        *sound = DecodedSound();
+        return false;
+    }
+    return true;
+}
+
+bool AudioFileDecoder::decodeMp3(const QString& path, DecodedSound* sound)
+{
+    if (!initialiseMpg123())
+        return false;
+    int error = MPG123_OK;
+    std::unique_ptr<mpg123_handle, Mpg123Deleter> handle(mpg123_new(nullptr, &error));
+    if (!handle)
+        return false;
+    mpg123_param(handle.get(), MPG123_ADD_FLAGS, MPG123_FORCE_FLOAT | MPG123_QUIET | MPG123_GAPLESS, 0.0);
+    mpg123_format_none(handle.get());
+    const long* rates = nullptr;
+    size_t rateCount = 0;
+    mpg123_rates(&rates, &rateCount);
+    for (size_t i = 0; i < rateCount; ++i)
+        mpg123_format(handle.get(), rates[i], MPG123_MONO | MPG123_STEREO, MPG123_ENC_FLOAT_32);
+
+    if (mpg123_open(handle.get(), QFile::encodeName(path).constData()) != MPG123_OK)
+        return false;
+    long rate = 0;
+    int channels = 0;
+    int encoding = 0;
+    if (mpg123_getformat(handle.get(), &rate, &channels, &encoding) != MPG123_OK
+        || encoding != MPG123_ENC_FLOAT_32 || channels < 1)
+        return false;
+    // Keep this one format for the whole stream.
+    mpg123_format_none(handle.get());
+    mpg123_format(handle.get(), rate, channels, encoding);
+
+    const off_t expected = mpg123_length(handle.get());
+    if (expected > 0)
+        sound->samples.reserve(static_cast<int>(expected * channels));
+
+    QVector<float> chunk(16384);
+    for (;;) {
+        size_t done = 0;
+        const int result = mpg123_read(handle.get(), reinterpret_cast<unsigned char*>(chunk.data()),
+                                       static_cast<size_t>(chunk.size()) * sizeof(float), &done);
+        const int count = static_cast<int>(done / sizeof(float));
+        const int start = sound->samples.size();
+        sound->samples.resize(start + count);
+        std::copy(chunk.constBegin(), chunk.constBegin() + count, sound->samples.begin() + start);
+        if (result == MPG123_DONE)
+            break;
+        if (result != MPG123_OK && result != MPG123_NEW_FORMAT)
+            return false;
+    }
+    sound->sampleRate = static_cast<int>(rate);
+    sound->channels = channels;
+    return true;
+}
+
+bool AudioFileDecoder::decodeWithSndfile(const QString& path, DecodedSound* sound)
+{
+    SF_INFO info = {};
+    std::unique_ptr<SNDFILE, SndfileCloser> file(
+        sf_open(QFile::encodeName(path).constData(), SFM_READ, &info));
+    if (!file || info.channels < 1 || info.samplerate < 1 || info.frames <= 0)
+        return false;
+    sound->samples.resize(static_cast<int>(info.frames * info.channels));
+    const sf_count_t read = sf_readf_float(file.get(), sound->samples.data(), info.frames);
+    if (read <= 0)
+        return false;
+    sound->samples.resize(static_cast<int>(read * info.channels));
+    sound->sampleRate = info.samplerate;
+    sound->channels = info.channels;
+    return true;
+}
+
+} // namespace QMMultiMedia
