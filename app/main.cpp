@@ -1,13 +1,47 @@
 #include "App.h"
+#include "App_mac.h"
+#include "AppStyleSheet.h"
+#include "CorvaneSite.h"
 
 #include <QWidget>
 
 int main(int argc, char* argv[])
 {
     QMWidgets::App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral("GuitarTonarium"));
+    // A second launch only brings the running window forward.
+    if (App_mac::instance()->isRunningElsewhere())
+        return 0;
+
+    app.setAppId(QLatin1String(QMWidgets::CorvaneSite::guitarTonariumStoreId));
+    app.setPromotedLink(QLatin1String(QMWidgets::CorvaneSite::webHost) + QStringLiteral("/apps/guitartonarium/"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.2"));
+    QCoreApplication::setOrganizationDomain(QLatin1String(QMWidgets::CorvaneSite::domain));
+    app.setResourceOffset(QStringLiteral("libs/cpp/QMMusic/"));
+    app.setStyleSheet(QMWidgets::AppStyleSheet::text());
+    app.setCorvaneLinks();
+
     QWidget page;
-    page.setMinimumSize(800, 600);
+
+    page.setMinimumHeight(600);
+    page.setMinimumWidth(800);
+    // Only the tuner pages store these; this window opens at its minimum.
+    page.resize(app.settingsValue(QStringLiteral("Width"), page.minimumSize().width()).toInt(),
+                app.settingsValue(QStringLiteral("Height"), page.minimumSize().height()).toInt());
+
+    QObject::connect(&app, &QMWidgets::App::dockClicked, &page, &QWidget::showNormal);
+    QObject::connect(&app, &QMWidgets::App::dockClicked, &page, [&page]() {
+        page.raise();
+        page.activateWindow();
+    });
+
+    // The translations manager comes into being here, after the page.
+    app.setIntroductionSlides(
+        QMWidgets::App::introductionSlidesFor(app.bundleResourcePath(), app.currentLanguage()));
+
     page.setWindowTitle(QCoreApplication::applicationName());
+    app.setMainWidget(&page);
     page.show();
+    app.showHelpOnStart();
+
     return app.exec();
 }

@@ -1,23 +1,72 @@
 #include "App.h"
 
+#include "App_mac.h"
+#include "BlenderWidget.h"
+#include "CorvaneSite.h"
+#include "TranslationsManager.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QDesktopServices>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QSettings>
+#include <QStandardPaths>
+#include <QSysInfo>
+#include <QTimer>
+#include <QUrl>
 
 namespace QMWidgets {
+
+namespace {
+
+const char* const monthAbbreviations[] = { "Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                           "Jul", "Aug", "Sep", "Oct", "Nov", "Dec" };
+
+QString applicationNameLower()
+{
+    return QCoreApplication::applicationName().toLower();
+}
+
+} // namespace
 
 App::App(int& argc, char** argv, const QString& organizationName, const QString& applicationName)
     : QApplication(argc, argv)
 {
+    // Directory paths contain these names, so they come first.
     QCoreApplication::setOrganizationName(organizationName);
     QCoreApplication::setApplicationName(applicationName);
 
+    // Decided before anything below creates a directory.
+    m_firstStart = isFirstStartInternal();
+
+    connect(App_mac::instance(), &App_mac::dockClicked, this, &App::dockClicked);
+
+    m_legalNotices = tr("<H3>This Application Uses:</H3>") + QStringLiteral("Qt ") + QStringLiteral("5")
+        + QStringLiteral(" Framework<BR>") + QStringLiteral("<a href=\"%1\">%1</a>").arg(CorvaneSite::qtWebSite)
+        + QStringLiteral("<BR>");
+
+    m_openDirPath = workDirectory(true);
+    m_saveDirPath = m_openDirPath;
+
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, supportDirectory(true));
+    // INI text in spite of the file name: existing files must keep loading.
     m_settings = new QSettings(supportDirectory(true) + QStringLiteral("settings.plist"), QSettings::IniFormat, this);
 
-    m_bundleResourcePath = QDir::cleanPath(QCoreApplication::applicationDirPath().remove(QStringLiteral("MacOS")))
-        + QStringLiteral("/Resources/");
+    m_bundleResourcePath = bundleResourcePathFor(QCoreApplication::applicationDirPath());
+
+    m_isDirectDistribution = true;
+
+    disableTerminalOuput();
+
+    if (settingsValue(QStringLiteral("checkupdates"), true).toBool())
+        QTimer::singleShot(2000, this, &App::nop_cuos);
 }
 
 App::~App() = default;
@@ -27,8 +76,12 @@ App* App::theApp()
     return qobject_cast<App*>(QCoreApplication::instance());
 }
 
+// ---- Settings
+
 QString App::settingsKey(const QString& key) const
 {
+    if (m_oldSettingsMode)
+        return key;
     return QCoreApplication::applicationName() + QLatin1Char('/') + key;
 }
 
@@ -42,18 +95,112 @@ void App::setSettingsValue(const QString& key, const QVariant& value)
     m_settings->setValue(settingsKey(key), value);
 }
 
+void App::setOldSettingsMode(bool on)
+{
+    m_oldSettingsMode = on;
+}
+
 QSettings* App::settings() const
 {
     return m_settings;
 }
 
+// ---- Directories
+
+QString App::homeSubDirectory(const QString& relative, bool create)
+{
+    const QString path = QDir::homePath() + relative + QLatin1Char('/') + QCoreApplication::applicationName()
+        + QLatin1Char('/');
+    if (create)
+        ensureDirExists(path);
+    return path;
+}
+
 QString App::supportDirectory(bool create)
 {
-    const QString path = QDir::homePath() + QStringLiteral("/Library/Application Support/")
+    return homeSubDirectory(QStringLiteral("/Library/Application Support"), create);
+}
+
+QString App::workDirectory(bool create)
+{
+    return homeSubDirectory(QStringLiteral("/Library"), create);
+}
+
+QString App::cachesDirectory(bool create)
+{
+    return homeSubDirectory(QStringLiteral("/Library/Caches"), create);
+}
+
+QString App::picturesDirectory(bool create)
+{
+    return homeSubDirectory(QStringLiteral("/Pictures"), create);
+}
+
+QString App::musicDirectory(bool create)
+{
+    return homeSubDirectory(QStringLiteral("/Music"), create);
+}
+
+QString App::moviesDirectory(bool create)
+{
+    return homeSubDirectory(QStringLiteral("/Movies"), create);
+}
+
+QString App::downloadsDirectory(bool create)
+{
+    return homeSubDirectory(QStringLiteral("/Downloads"), create);
+}
+
+QString App::documentsDirectory(bool create)
+{
+    const QString path = QStandardPaths::standardLocations(QStandardPaths::DocumentsLocation).value(0)
+        + QLatin1Char('/') + QCoreApplication::organizationName() + QLatin1Char('/')
         + QCoreApplication::applicationName() + QLatin1Char('/');
     if (create)
-        QDir().mkpath(path);
+        ensureDirExists(path);
     return path;
+}
+
+QString App::dataDirectory(bool create)
+{
+    const QString path = QStandardPaths::standardLocations(QStandardPaths::AppLocalDataLocation).value(0);
+    if (create)
+        ensureDirExists(path);
+    return path;
+}
+
+void App::ensureDirExists(const QString& path)
+{
+    if (!path.isEmpty() && !QDir(path).exists())
+        QDir().mkpath(path);
+}
+
+bool App::isFirstStartInternal()
+{
+    const QString paths[] = { supportDirectory(false), documentsDirectory(false), cachesDirectory(false),
+                              dataDirectory(false),    workDirectory(false),      picturesDirectory(false),
+                              musicDirectory(false),   moviesDirectory(false),    downloadsDirectory(false) };
+    for (const QString& path : paths) {
+        if (QDir(path).exists())
+            return false;
+    }
+    return true;
+}
+
+bool App::isFirstStart() const
+{
+    return m_firstStart;
+}
+
+// ---- Resources and screen
+
+QString App::bundleResourcePathFor(const QString& applicationDir)
+{
+    QString path = applicationDir;
+    path.remove(QStringLiteral("MacOS"));
+    if (!path.endsWith(QLatin1Char('/')))
+        path += QLatin1Char('/');
+    return path + QStringLiteral("Resources/");
 }
 
 QString App::bundleResourcePath() const
@@ -61,10 +208,570 @@ QString App::bundleResourcePath() const
     return m_bundleResourcePath;
 }
 
+QString App::resourceOffset() const
+{
+    return m_resourceOffset;
+}
+
+void App::setResourceOffset(const QString& offset)
+{
+    m_resourceOffset = offset;
+}
+
 double App::devicePixelRatio() const
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen ? screen->devicePixelRatio() : 1.0;
+}
+
+QSize App::desktopSize() const
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->virtualSize() : QSize();
+}
+
+bool App::isPocketSize(const QSize& desktop)
+{
+    return desktop.width() < 480 || desktop.height() < 480;
+}
+
+int App::smallestDimention(const QSize& desktop)
+{
+    return qMin(desktop.width(), desktop.height());
+}
+
+bool App::isPocketDevice() const
+{
+    return isPocketSize(desktopSize());
+}
+
+int App::smallestDimention() const
+{
+    return smallestDimention(desktopSize());
+}
+
+bool App::isLandscape() const
+{
+    const QSize desktop = desktopSize();
+    return desktop.width() > desktop.height();
+}
+
+bool App::isPortrait() const
+{
+    return !isLandscape();
+}
+
+// ---- Files
+
+QString App::openDirPath() const
+{
+    return m_openDirPath;
+}
+
+QString App::saveDirPath() const
+{
+    return m_saveDirPath;
+}
+
+void App::setOpenDirPath(const QString& fileOrDir)
+{
+    m_openDirPath = QFileInfo(fileOrDir).absolutePath();
+}
+
+void App::setSaveDirPath(const QString& fileOrDir)
+{
+    m_saveDirPath = QFileInfo(fileOrDir).absolutePath();
+}
+
+bool App::copyTo(const QString& source, const QString& directory, const QString& name)
+{
+    ensureDirExists(directory);
+    const QString target = directory + QLatin1Char('/') + (name.isEmpty() ? QFileInfo(source).fileName() : name);
+    // Files copied out of the bundle are never overwritten.
+    if (QFile::exists(target))
+        return true;
+
+    QFile in(source);
+    if (!in.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray data = in.readAll();
+    QFile out(target);
+    if (!out.open(QIODevice::WriteOnly))
+        return false;
+    out.write(data);
+    out.close();
+    return true;
+}
+
+bool App::copyToSupportDirectory(const QString& source, const QString& name)
+{
+    return copyTo(source, supportDirectory(true), name);
+}
+
+// ---- Main widget, events, start-up timers
+
+void App::setMainWidget(QWidget* widget)
+{
+    m_mainWidget = widget;
+    if (!widget)
+        return;
+
+    m_blender = new BlenderWidget(widget);
+    m_blender->setObjectName(QStringLiteral("MainWidgetBlender"));
+    m_blender->hide();
+
+    auto* menuBar = new QMenuBar(widget);
+    auto* menu = new QMenu(widget);
+    QAction* about = menu->addAction(QIcon(QStringLiteral(":/appicon.png")), tr("About"), this, &App::slotAbout);
+    about->setMenuRole(QAction::AboutRole);
+    menuBar->addMenu(menu);
+    // A desktop with a global menu takes the bar; without one it would lie
+    // over the page's own bar, which carries the About button already.
+    menuBar->setVisible(menuBar->isNativeMenuBar());
+}
+
+QWidget* App::mainWidget() const
+{
+    return m_mainWidget;
+}
+
+void App::slotSetBlendMainWidget(bool on)
+{
+    if (!m_mainWidget || !m_blender)
+        return;
+    if (on) {
+        m_blender->resize(m_mainWidget->size());
+        m_blender->show();
+        m_blender->raise();
+    } else {
+        m_blender->hide();
+    }
+}
+
+void App::slotFocusChanged(QWidget* /*old*/, QWidget* /*now*/)
+{
+    slotSetBlendMainWidget(QApplication::activeWindow() != m_mainWidget);
+}
+
+bool App::notify(QObject* receiver, QEvent* event)
+{
+    if (event->type() == QEvent::ApplicationDeactivate) {
+        m_deactivated = true;
+        emit applicationDeactivated();
+    } else if (event->type() == QEvent::ApplicationActivate) {
+        m_deactivated = false;
+        emit applicationActivated();
+    }
+    return QApplication::notify(receiver, event);
+}
+
+bool App::isDeactivated() const
+{
+    return m_deactivated;
+}
+
+void App::showHelpOnStart()
+{
+    if (!settingsValue(QStringLiteral("NeverShowItAgain"), false).toBool())
+        QTimer::singleShot(500, this, &App::slotHelp);
+}
+
+void App::setIntroductionSlides(const QStringList& slides)
+{
+    m_introductionSlides = slides;
+}
+
+QStringList App::introductionSlides() const
+{
+    return m_introductionSlides;
+}
+
+QString App::slideLanguage(const QString& language)
+{
+    if (language == QLatin1String("de") || language == QLatin1String("ru"))
+        return language;
+    return QStringLiteral("en");
+}
+
+QStringList App::introductionSlidesFor(const QString& resourcePath, const QString& language)
+{
+    const QString slideCode = slideLanguage(language);
+    QStringList slides;
+    for (int n = 0; n < 7; ++n)
+        slides << resourcePath + QStringLiteral("TRXSlide%1_%2.jpg").arg(n).arg(slideCode);
+    return slides;
+}
+
+// ---- Message handlers
+
+QString App::logLine(QtMsgType type, const QMessageLogContext& context, const QString& message,
+                     const QDateTime& time)
+{
+    const char* word = nullptr;
+    switch (type) {
+    case QtDebugMsg:
+        word = " Debug: ";
+        break;
+    case QtWarningMsg:
+        word = " Warning: ";
+        break;
+    case QtCriticalMsg:
+        word = " Critical: ";
+        break;
+    case QtFatalMsg:
+        word = " Fatal: ";
+        break;
+    default:
+        return QString();
+    }
+    return time.toString(QStringLiteral("dd.MM.yy-hh:mm")) + QLatin1String(word) + message + QStringLiteral(", ")
+        + QString::fromUtf8(context.file) + QLatin1Char('\n');
+}
+
+void App::terminalOutputToDummy(QtMsgType, const QMessageLogContext&, const QString&) { }
+
+void App::terminalOutputToFile(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    const QString line = logLine(type, context, message, QDateTime::currentDateTime());
+    if (line.isEmpty())
+        return;
+    QFile file(supportDirectory(true) + QStringLiteral("protocol.log"));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text))
+        return;
+    file.write(line.toUtf8());
+    file.close();
+}
+
+void App::disableTerminalOuput()
+{
+    qInstallMessageHandler(&App::terminalOutputToDummy);
+}
+
+void App::setTerminalOuputToFile()
+{
+    qInstallMessageHandler(&App::terminalOutputToFile);
+}
+
+// ---- Build and platform information
+
+QString App::buildFromCompilerDate(const QString& compilerDate)
+{
+    QString build = compilerDate.simplified().replace(QLatin1Char(' '), QLatin1Char('/'));
+    for (int month = 0; month < 12; ++month)
+        build.replace(QLatin1String(monthAbbreviations[month]), QString::number(month + 1));
+    return build;
+}
+
+QDate App::dateFromBuild(const QString& build)
+{
+    return QDate::fromString(build, QStringLiteral("M/d/yyyy"));
+}
+
+QString App::build() const
+{
+    return buildFromCompilerDate(QStringLiteral(__DATE__));
+}
+
+QDate App::buildDate() const
+{
+    const QString b = build();
+    const QDate date = dateFromBuild(b);
+    qDebug() << "&&&BUILD:" << b;
+    qDebug() << "&&&DATE:" << date;
+    return date;
+}
+
+QString App::osInfo() const
+{
+    return QSysInfo::prettyProductName();
+}
+
+bool App::isStoreBuild(bool directDistribution, const QString& resourcePath)
+{
+    if (directDistribution)
+        return false;
+    // An empty marker file tells a directly distributed copy of a store build.
+    return !QFile::exists(resourcePath + QStringLiteral("independent"));
+}
+
+bool App::isAppStore()
+{
+    const App* app = theApp();
+    if (!app)
+        return false;
+    return isStoreBuild(app->m_isDirectDistribution, app->m_bundleResourcePath);
+}
+
+QString App::bundleIdentifier()
+{
+    const QStringList parts = QCoreApplication::organizationDomain().split(QLatin1Char('.'), Qt::KeepEmptyParts);
+    return parts.last() + QLatin1Char('.') + parts.first() + QLatin1Char('.') + QCoreApplication::applicationName();
+}
+
+QString App::currentLanguage() const
+{
+    TranslationsManager::instance();
+    return m_currentLanguage;
+}
+
+void App::setCurrentLanguage(const QString& language)
+{
+    m_currentLanguage = language;
+}
+
+QString App::currentLanguageOptimized() const
+{
+    const QString language = currentLanguage();
+    if (language.contains(QStringLiteral("en")))
+        return QString();
+    return language + QLatin1Char('/');
+}
+
+bool App::isKidsMode() const
+{
+    return m_kidsMode;
+}
+
+void App::setKidsMode(bool on)
+{
+    m_kidsMode = on;
+}
+
+bool App::isSandboxed() const
+{
+    return m_sandboxed;
+}
+
+void App::setSandboxed(bool on)
+{
+    m_sandboxed = on;
+}
+
+QString App::legalNotices() const
+{
+    return m_legalNotices;
+}
+
+void App::addLegalNotices(const QString& notices)
+{
+    m_legalNotices = notices;
+}
+
+// ---- Links
+
+void App::setAppId(const QString& id)
+{
+    m_appId = id;
+}
+
+QString App::appId() const
+{
+    return m_appId;
+}
+
+void App::setAppSupportPage(const QString& page)
+{
+    m_appSupportPage = page;
+}
+
+QString App::appSupportPage() const
+{
+    return m_appSupportPage;
+}
+
+void App::setFaceBookShareLink(const QString& link)
+{
+    m_faceBookShareLink = link;
+}
+
+QString App::faceBookShareLink() const
+{
+    return m_faceBookShareLink;
+}
+
+void App::setTwitterShareLink(const QString& link)
+{
+    m_twitterShareLink = link;
+}
+
+QString App::twitterShareLink() const
+{
+    return m_twitterShareLink;
+}
+
+void App::setVKontakteShareLink(const QString& link)
+{
+    m_vkontakteShareLink = link;
+}
+
+QString App::vkontakteShareLink() const
+{
+    return m_vkontakteShareLink;
+}
+
+void App::setPromotedAppNameAndID(const QString& name, const QString& id)
+{
+    m_promotedAppName = name;
+    m_promotedAppId = id;
+}
+
+void App::setPromotedLink(const QString& link)
+{
+    m_promotedLink = link;
+}
+
+void App::setCorvaneLinks()
+{
+    const QString name = applicationNameLower() + QLatin1Char('/');
+    const QString base = QLatin1String(CorvaneSite::webHost) + QStringLiteral("/apps/");
+    m_faceBookShareLink = base + name + QStringLiteral("facebook.php");
+    m_twitterShareLink = base + name + QStringLiteral("twitter.php");
+    m_vkontakteShareLink = base + name + QStringLiteral("vkontakte.php");
+    m_appSupportPage = base + name;
+}
+
+QString App::rateAppUrl() const
+{
+    return QLatin1String(CorvaneSite::storeHost) + QStringLiteral("/app/") + applicationNameLower()
+        + QLatin1Char('/') + m_appId + QStringLiteral("?ls=1&mt=12");
+}
+
+QString App::promotedAppUrl() const
+{
+    if (!m_promotedLink.isEmpty())
+        return m_promotedLink;
+    return QLatin1String(CorvaneSite::storeHost) + QStringLiteral("/app/") + m_promotedAppName.toLower()
+        + QLatin1Char('/') + m_promotedAppId + QStringLiteral("?ls=1&mt=12");
+}
+
+QString App::moreAppsUrl() const
+{
+    return QLatin1String(CorvaneSite::webHost) + QStringLiteral("/apps");
+}
+
+QString App::supportPageUrl() const
+{
+    return m_appSupportPage.isEmpty() ? QString::fromLatin1(CorvaneSite::webHost) : m_appSupportPage;
+}
+
+QString App::contactUsLink() const
+{
+    const QString language = currentLanguage();
+    return QStringLiteral("mailto:") + QLatin1String(CorvaneSite::contactAddress) + QStringLiteral("?subject=Contact (")
+        + QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion()
+        + QStringLiteral(") ") + osInfo() + QLatin1Char(' ') + language + QLatin1Char(' ')
+        + (isAppStore() ? QString() : QStringLiteral("I")) + QStringLiteral("&body=");
+}
+
+QString App::tellFriendLink() const
+{
+    const QString name = QCoreApplication::applicationName();
+    QString productLink = m_appSupportPage;
+    if (productLink.isEmpty()) {
+        if (isAppStore())
+            productLink = QLatin1String(CorvaneSite::storeHost) + QLatin1Char('/') + currentLanguageOptimized()
+                + QStringLiteral("app/") + applicationNameLower() + QLatin1Char('/') + m_appId
+                + QStringLiteral("?ls=1&mt=12");
+        else
+            productLink = QLatin1String(CorvaneSite::webHost) + QStringLiteral("/apps/") + applicationNameLower()
+                + QStringLiteral(".html");
+    }
+    // These texts stay English: the friend's language is unknown.
+    return QStringLiteral("mailto:?subject=Check out the cool ") + name + QStringLiteral(" app!&body=Hi, check out this cool ")
+        + name + QStringLiteral(" app - available in the App Stores: ") + productLink;
+}
+
+void App::slotRateApp()
+{
+    QDesktopServices::openUrl(QUrl(rateAppUrl()));
+}
+
+void App::slotGoToPromotedApp()
+{
+    QDesktopServices::openUrl(QUrl(promotedAppUrl()));
+}
+
+void App::slotShowMoreApps()
+{
+    QDesktopServices::openUrl(QUrl(moreAppsUrl()));
+}
+
+void App::slotSupportPage()
+{
+    QDesktopServices::openUrl(QUrl(supportPageUrl()));
+}
+
+void App::slotContactUs()
+{
+    QDesktopServices::openUrl(QUrl(contactUsLink()));
+}
+
+void App::slotTellFriend()
+{
+    QDesktopServices::openUrl(QUrl(tellFriendLink()));
+}
+
+void App::slotShareApp() { }
+
+void App::slotJoin() { }
+
+void App::slotAbout() { }
+
+void App::slotHelp() { }
+
+void App::slotCheckUpdate() { }
+
+void App::nop_cuos() { }
+
+// ---- Widget helpers
+
+bool App::isChildOf(QObject* child, QObject* parent)
+{
+    if (!child || !parent)
+        return false;
+    return parent->findChildren<QObject*>().contains(child);
+}
+
+QWidget* App::getWidgetByClassName(const QString& name)
+{
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget* topLevel : topLevels) {
+        if (QLatin1String(topLevel->metaObject()->className()) == name)
+            return topLevel;
+        const QList<QWidget*> children = topLevel->findChildren<QWidget*>();
+        for (QWidget* child : children) {
+            if (QLatin1String(child->metaObject()->className()) == name)
+                return child;
+        }
+    }
+    return nullptr;
+}
+
+QPoint App::calculateMousePosition(QWidget* widget, int x, int y)
+{
+    // A negative coordinate asks for the centre line; any other gives the edge.
+    return QPoint(x < 0 ? widget->width() / 2 : 0, y < 0 ? widget->height() / 2 : 0);
+}
+
+void App::mousePress(QWidget* widget, int x, int y, Qt::MouseButton button, Qt::MouseButtons buttons)
+{
+    QCoreApplication::postEvent(widget,
+                                new QMouseEvent(QEvent::MouseButtonPress, QPointF(x, y), button, buttons, Qt::NoModifier));
+}
+
+void App::mouseRelease(QWidget* widget, int x, int y, Qt::MouseButton button, Qt::MouseButtons buttons)
+{
+    QCoreApplication::postEvent(
+        widget, new QMouseEvent(QEvent::MouseButtonRelease, QPointF(x, y), button, buttons, Qt::NoModifier));
+}
+
+void App::mouseClick(QWidget* widget, int x, int y, Qt::MouseButton button, Qt::MouseButtons buttons)
+{
+    if (!widget)
+        return;
+    const QPoint position = calculateMousePosition(widget, x, y);
+    mousePress(widget, position.x(), position.y(), button, buttons);
+    mouseRelease(widget, position.x(), position.y(), button, buttons);
 }
 
 } // namespace QMWidgets
