@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QFrame>
+#include <QString>
+#include <QTime>
+
+#include <array>
+
+class QLabel;
+class QPushButton;
+class QTimer;
+
+namespace QMMusic {
+
+class NotesLernStatistic;
+
+// The training panel: twelve keys to name the note that the board shows, the
+// Start/Stop button, the clock of the run and the score panel.
+class NotesTrainerWidget : public QFrame
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(NotesTrainerWidget)
+
+public:
+    static constexpr int KeyCount = 12;
+
+    explicit NotesTrainerWidget(QWidget* parent = nullptr);
+
+    // Takes the note now asked; accepted in or out of a run, scores nothing.
+    void setNote(const QString& note, int accidental);
+    bool isTrainingStarted() const;
+    void disableKeys(bool disable);
+    static void applyNoteButtonDetails(QPushButton* button);
+
+    QString currentNote() const;
+    int currentAccidental() const;
+    NotesLernStatistic* statistic() const;
+    // The key filed under a report key ("C", "C#", ... "B"), or nullptr.
+    QPushButton* keyButton(const QString& reportKey) const;
+
+    // Report keys in chromatic order, C to B.
+    static QString reportKey(int keyIndex);
+    // Whether pressing the key of the report key answers the note rightly: the
+    // letter of the note and its accidental, enharmonic spellings included
+    // (B sharp is answered on C, C flat on B, E sharp on F, F flat on E).
+    static bool isRightAnswer(const QString& reportKey, const QString& note, int accidental);
+    // The rich text of the clock after the given milliseconds of a run.
+    static QString clockText(int msecs);
+
+signals:
+    void needNextNote();
+    void trainingStarted(bool started);
+
+public slots:
+    void slotStartClicked(bool checked);
+    void slotTimeOut();
+    void slotCClicked();
+    void slotCDClicked();
+    void slotDClicked();
+    void slotDDClicked();
+    void slotEClicked();
+    void slotFClicked();
+    void slotFDClicked();
+    void slotGClicked();
+    void slotGDClicked();
+    void slotAClicked();
+    void slotADClicked();
+    void slotBClicked();
+
+private:
+    void answer(int keyIndex);
+
+    QTimer* m_timer = nullptr;
+    QLabel* m_timeLabel = nullptr;
+    QPushButton* m_startButton = nullptr;
+    QTime m_startTime;
+    QString m_currentNote;
+    int m_currentAccidental = 0;
+    NotesLernStatistic* m_statistic = nullptr;
+    std::array<QPushButton*, KeyCount> m_keys{};
+};
+
+} // namespace QMMusic

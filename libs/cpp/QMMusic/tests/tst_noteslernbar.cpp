@@ -1,0 +1,236 @@
+#include "NotesLernBar.h"
+
+#include <QPainter>
+#include <QtTest>
+
+#include <limits>
+
+using QMMusic::NotesLernBar;
+
+namespace {
+
+enum class Tint { Green, Red, Other };
+
+Tint tintOf(QRgb pixel)
+{
+    const int r = qRed(pixel);
+    const int g = qGreen(pixel);
+    const int b = qBlue(pixel);
+    if (g > r + 40 && g > b + 40)
+        return Tint::Green;
+    if (r > g + 40 && r > b + 40)
+        return Tint::Red;
+    return Tint::Other;
+}
+
+// Pixels bright in all three channels: only the white text reaches them,
+// the gradients peak at 220 in one channel and 90 in the others.
+QImage whiteMask(const QImage& image)
+{
+    QImage mask(image.size(), QImage::Format_Mono);
+    mask.fill(0);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb p = image.pixel(x, y);
+            if (qRed(p) > 170 && qGreen(p) > 170 && qBlue(p) > 170)
+                mask.setPixel(x, y, 1);
+        }
+    }
+    return mask;
+}
+
+int differingPixels(const QImage& a, const QImage& b)
+{
+    int count = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            if (a.pixelIndex(x, y) != b.pixelIndex(x, y))
+                ++count;
+        }
+    }
+    return count;
+}
+
+// The given text drawn white and centred on black, in the bar's font.
+QImage expectedTextMask(const QString& text, const QSize& size, const QFont& font)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(QRect(QPoint(0, 0), size), Qt::AlignCenter, text);
+    painter.end();
+    return whiteMask(image);
+}
+
+QImage render(int right, int wrong, int width)
+{
+    NotesLernBar bar;
+    bar.resize(width, 24);
+    bar.setRightCount(right);
+    bar.setWrongCount(wrong);
+    return bar.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+} // namespace
+
+class tst_NotesLernBar : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void counts();
+    void percentText_data();
+    void percentText();
+    void partWidths_data();
+    void partWidths();
+    void renderedBar_data();
+    void renderedBar();
+    void noAnswersDrawsNothing();
+};
+
+void tst_NotesLernBar::counts()
+{
+    NotesLernBar bar;
+    QCOMPARE(bar.objectName(), QStringLiteral("NotesLernBar"));
+    QCOMPARE(bar.height(), 24);
+    bar.incRight();
+    bar.incRight();
+    bar.incWrong();
+    QCOMPARE(bar.rightCount(), 2);
+    QCOMPARE(bar.wrongCount(), 1);
+    bar.reset();
+    QCOMPARE(bar.rightCount(), 0);
+    QCOMPARE(bar.wrongCount(), 0);
+}
+
+void tst_NotesLernBar::percentText_data()
+{
+    QTest::addColumn<int>("right");
+    QTest::addColumn<int>("wrong");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("1 of 3 truncates to 33") << 1 << 2 << "33%";
+    QTest::newRow("2 of 3 truncates to 66, not rounded to 67") << 2 << 1 << "66%";
+    QTest::newRow("all wrong") << 0 << 4 << "0%";
+    QTest::newRow("all right") << 5 << 0 << "100%";
+    QTest::newRow("half") << 3 << 3 << "50%";
+    QTest::newRow("1 of 6 is 16, not 17") << 1 << 5 << "16%";
+    QTest::newRow("99 of 100") << 99 << 1 << "99%";
+    QTest::newRow("199 of 200 stays below 100") << 199 << 1 << "99%";
+}
+
+void tst_NotesLernBar::percentText()
+{
+    QFETCH(int, right);
+    QFETCH(int, wrong);
+    QFETCH(QString, text);
+
+    QCOMPARE(NotesLernBar::percentText(right, wrong), text);
+}
+
+void tst_NotesLernBar::partWidths_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("right");
+    QTest::addColumn<int>("wrong");
+    QTest::addColumn<int>("green");
+    QTest::addColumn<int>("red");
+
+    // A third in single precision is a hair below: 300 times it truncates to
+    // 99, and the red part truncates too, leaving the last column uncovered.
+    QTest::newRow("1 of 3 on 300") << 300 << 1 << 2 << 99 << 200;
+    QTest::newRow("2 of 3 on 300") << 300 << 2 << 1 << 199 << 100;
+    QTest::newRow("1 of 4 on 300") << 300 << 1 << 3 << 75 << 225;
+    QTest::newRow("all right") << 300 << 4 << 0 << 300 << 0;
+    QTest::newRow("all wrong") << 300 << 0 << 4 << 0 << 300;
+    QTest::newRow("truncation leaves the last column") << 7 << 1 << 2 << 2 << 4;
+    QTest::newRow("1 of 3 on 100") << 100 << 1 << 2 << 33 << 66;
+}
+
+void tst_NotesLernBar::partWidths()
+{
+    QFETCH(int, width);
+    QFETCH(int, right);
+    QFETCH(int, wrong);
+    QFETCH(int, green);
+    QFETCH(int, red);
+
+    QCOMPARE(NotesLernBar::rightWidth(width, right, wrong), green);
+    QCOMPARE(NotesLernBar::wrongWidth(width, right, wrong), red);
+}
+
+void tst_NotesLernBar::renderedBar_data()
+{
+    QTest::addColumn<int>("right");
+    QTest::addColumn<int>("wrong");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("greenColumns");
+    QTest::addColumn<int>("redColumns");
+
+    QTest::newRow("1 of 3") << 1 << 2 << "33%" << 99 << 200;
+    QTest::newRow("2 of 3") << 2 << 1 << "66%" << 199 << 100;
+    QTest::newRow("1 of 4") << 1 << 3 << "25%" << 75 << 225;
+    QTest::newRow("all wrong") << 0 << 3 << "0%" << 0 << 300;
+    QTest::newRow("all right") << 3 << 0 << "100%" << 300 << 0;
+}
+
+// Renders the bar and reads back the colours of each column along the top
+// edge, where no text is, and the white text against the expected string.
+void tst_NotesLernBar::renderedBar()
+{
+    QFETCH(int, right);
+    QFETCH(int, wrong);
+    QFETCH(QString, text);
+    QFETCH(int, greenColumns);
+    QFETCH(int, redColumns);
+
+    const int width = 300;
+    const QImage image = render(right, wrong, width);
+    QCOMPARE(image.width(), width);
+
+    for (int x = 0; x < width; ++x) {
+        const Tint expected = x < greenColumns ? Tint::Green
+            : x < greenColumns + redColumns    ? Tint::Red
+                                               : Tint::Other;
+        if (tintOf(image.pixel(x, 2)) != expected)
+            QFAIL(qPrintable(QStringLiteral("column %1 has the wrong colour").arg(x)));
+    }
+
+    // The drawn text must match the expected string better than any other
+    // text the bar could plausibly show; edges of antialiased glyphs fall
+    // differently on a coloured ground, so an exact match is not asked.
+    const QImage drawn = whiteMask(image);
+    const QFont font = NotesLernBar().font();
+    const QStringList candidates { "0%", "1%", "10%", "25%", "26%", "33%", "34%", "66%", "67%", "99%", "100%", "0 %", "33 %",
+        "66 %", "100 %", "33.3%", "66.6%" };
+    QString bestMatch;
+    int fewestDifferences = std::numeric_limits<int>::max();
+    for (const QString& candidate : candidates) {
+        const int differences = differingPixels(drawn, expectedTextMask(candidate, image.size(), font));
+        if (differences < fewestDifferences) {
+            fewestDifferences = differences;
+            bestMatch = candidate;
+        }
+    }
+    QCOMPARE(bestMatch, text);
+}
+
+void tst_NotesLernBar::noAnswersDrawsNothing()
+{
+    const QImage image = render(0, 0, 300);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (tintOf(image.pixel(x, y)) != Tint::Other)
+                QFAIL("a coloured part was drawn without answers");
+        }
+    }
+    // No percentage either: the middle row is one plain colour.
+    const QRgb first = image.pixel(0, 0);
+    for (int x = 0; x < image.width(); ++x)
+        QCOMPARE(image.pixel(x, image.height() / 2), first);
+}
+
+QTEST_MAIN(tst_NotesLernBar)
+#include "tst_noteslernbar.moc"
