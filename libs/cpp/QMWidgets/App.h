@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDate>
 #include <QPoint>
+#include <QPointer>
 #include <QStringList>
 #include <QVariant>
 
@@ -196,8 +197,8 @@ private:
     QString m_vkontakteShareLink;
     bool m_oldSettingsMode = false;
     QString m_resourceOffset;
-    QWidget* m_mainWidget = nullptr;
-    BlenderWidget* m_blender = nullptr;
+    QPointer<QWidget> m_mainWidget;
+    QPointer<BlenderWidget> m_blender;
     QString m_appSupportPage;
     QString m_bundleResourcePath;
     bool m_kidsMode = false;
