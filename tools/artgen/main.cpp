@@ -5,6 +5,7 @@
 #include "MetronomeSoundSynth.h"
 #include "NeckArt.h"
 #include "PageArt.h"
+#include "TrainerArt.h"
 
 #include <QCommandLineParser>
 #include <QFontDatabase>
@@ -28,6 +29,7 @@ int main(int argc, char* argv[])
     LookArt::generate(writer);
     NeckArt::generate(writer);
     PageArt::generate(writer);
+    TrainerArt::generate(writer);
     GuitarSampleSynth::generate(writer);
     MetronomeSoundSynth::generate(writer);
 
