@@ -61,6 +61,9 @@ private slots:
     void intToRaw();
     void integerRoundTrip_data();
     void integerRoundTrip();
+    void rawRoundTripInPlace_data();
+    void rawRoundTripInPlace();
+    void longShortRunInPlace();
     void ieeeExtended_data();
     void ieeeExtended();
 };
@@ -320,23 +323,86 @@ void tst_Util::integerRoundTrip()
         samples.append(v);
     samples.append(top);
 
+    typedef void (*ToFloat)(const int*, float*, int);
+    typedef void (*ToInt)(const float*, int*, int);
+    const ToFloat toFloat = bits == 8 ? Util::convert8ToFloat
+        : bits == 16 ? Util::convert16ToFloat : Util::convert24ToFloat;
+    const ToInt toInt = bits == 8 ? Util::convertFloatTo8
+        : bits == 16 ? Util::convertFloatTo16 : Util::convertFloatTo24;
+
     QVector<float> floats(samples.size());
     QVector<int> back(samples.size());
-    if (bits == 8) {
-        Util::convert8ToFloat(samples.constData(), floats.data(), samples.size());
-        Util::convertFloatTo8(floats.constData(), back.data(), samples.size());
-    } else if (bits == 16) {
-        Util::convert16ToFloat(samples.constData(), floats.data(), samples.size());
-        Util::convertFloatTo16(floats.constData(), back.data(), samples.size());
-    } else {
-        Util::convert24ToFloat(samples.constData(), floats.data(), samples.size());
-        Util::convertFloatTo24(floats.constData(), back.data(), samples.size());
-    }
+    toFloat(samples.constData(), floats.data(), samples.size());
+    toInt(floats.constData(), back.data(), samples.size());
+
+    // The same trip in one array, long enough for any vectorised loop.
+    Shared shared(samples.size());
+    std::memcpy(shared.as<int>(), samples.constData(), sizeof(int) * samples.size());
+    toFloat(shared.as<int>(), shared.as<float>(), samples.size());
+    QCOMPARE(QVector<float>(shared.as<float>(), shared.as<float>() + samples.size()), floats);
+    toInt(shared.as<float>(), shared.as<int>(), samples.size());
+    QCOMPARE(QVector<int>(shared.as<int>(), shared.as<int>() + samples.size()), back);
+
     for (int i = 0; i < samples.size(); ++i) {
         const int expected = samples[i] == -top - 1 ? -top : samples[i];
         if (back[i] != expected)
             QFAIL(qPrintable(QStringLiteral("%1 came back as %2").arg(samples[i]).arg(back[i])));
     }
+}
+
+void tst_Util::rawRoundTripInPlace_data()
+{
+    QTest::addColumn<int>("bytesPerSample");
+    QTest::addColumn<IntToRaw>("toRaw");
+    QTest::addColumn<RawToInt>("fromRaw");
+
+    QTest::newRow("8U") << 1 << IntToRaw(Util::convert8UToRaw) << RawToInt(Util::convertRawTo8U);
+    QTest::newRow("16U little endian") << 2
+        << IntToRaw([](const int* s, char* d, int n) { Util::convert16UToRaw(s, d, 2 * n, true); })
+        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo16U(s, d, n, true); });
+    QTest::newRow("16U big endian") << 2
+        << IntToRaw([](const int* s, char* d, int n) { Util::convert16UToRaw(s, d, 2 * n, false); })
+        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo16U(s, d, n, false); });
+    QTest::newRow("24U") << 3
+        << IntToRaw([](const int* s, char* d, int n) { Util::convert24UToRaw(s, d, 3 * n); })
+        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo24U(s, d, n, false); });
+}
+
+// Thousands of samples packed to bytes and unpacked again, both in one array.
+void tst_Util::rawRoundTripInPlace()
+{
+    QFETCH(int, bytesPerSample);
+    QFETCH(IntToRaw, toRaw);
+    QFETCH(RawToInt, fromRaw);
+
+    const int n = 5003;
+    const unsigned int mask = (1u << (8 * bytesPerSample)) - 1;
+    QVector<int> samples(n);
+    for (int i = 0; i < n; ++i)
+        samples[i] = static_cast<int>((static_cast<unsigned int>(i) * 2654435761u) & mask);
+
+    Shared shared(n);
+    std::memcpy(shared.as<int>(), samples.constData(), sizeof(int) * n);
+    toRaw(shared.as<int>(), shared.as<char>(), n);
+    fromRaw(shared.as<char>(), shared.as<int>(), n);
+    QCOMPARE(QVector<int>(shared.as<int>(), shared.as<int>() + n), samples);
+}
+
+void tst_Util::longShortRunInPlace()
+{
+    const int n = 4099;
+    QVector<float> input(n);
+    for (int i = 0; i < n; ++i)
+        input[i] = -1.2f + 2.4f * static_cast<float>(i) / n;
+    QVector<short> expected(n);
+    Util::convertFloatToShort16(input.constData(), expected.data(), n);
+    QCOMPARE(expected.first(), short(-32767));
+    QCOMPARE(expected.last(), short(32767));
+
+    Shared shared(n);
+    std::memcpy(shared.as<float>(), input.constData(), sizeof(float) * n);
+    Util::convertFloatToShort16(shared.as<float>(), shared.as<short>(), n);
+    QCOMPARE(QVector<short>(shared.as<short>(), shared.as<short>() + n), expected);
 }
 
 void tst_Util::ieeeExtended_data()
