@@ -45,6 +45,8 @@ private slots:
     void pulldownInsert();
     void pulldownRemove_data();
     void pulldownRemove();
+    void pulldownRemoveRefusesOutOfRange_data();
+    void pulldownRemoveRefusesOutOfRange();
     void pulldownPhaseRoundTrip_data();
     void pulldownPhaseRoundTrip();
     void packedSmpte_data();
@@ -343,6 +345,30 @@ void tst_FrameCount::pulldownRemove()
     const FrameCount count(0, 0, s, videoFrame, fps, true, phase, &gotOdd);
     QCOMPARE(count.frame(), filmFrame);
     QCOMPARE(gotOdd, odd);
+}
+
+void tst_FrameCount::pulldownRemoveRefusesOutOfRange_data()
+{
+    QTest::addColumn<int>("videoFrame");
+    QTest::addColumn<int>("phase");
+
+    QTest::newRow("phase 0") << 3 << 0;
+    QTest::newRow("phase 5") << 3 << 5;
+    QTest::newRow("frame 30") << 30 << 1;
+    QTest::newRow("negative frame") << -1 << 2;
+}
+
+void tst_FrameCount::pulldownRemoveRefusesOutOfRange()
+{
+    QFETCH(int, videoFrame);
+    QFETCH(int, phase);
+
+    QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral(
+                                         "^FrameCount::frameCountFromTimecode wrong pulldown value")));
+    int odd = 99;
+    QCOMPARE(FrameCount(0, 0, 1, videoFrame, 30.0f, true, phase, &odd).frame(),
+             FrameCount::unknownFrame);
+    QCOMPARE(odd, 99);
 }
 
 void tst_FrameCount::pulldownPhaseRoundTrip_data()
