@@ -1,5 +1,6 @@
 // artgen: draws the program's pictures and synthesises its samples.
 #include "ArtWriter.h"
+#include "FrameArt.h"
 #include "GuitarSampleSynth.h"
 #include "LookArt.h"
 #include "MetronomeSoundSynth.h"
@@ -30,6 +31,7 @@ int main(int argc, char* argv[])
     NeckArt::generate(writer);
     PageArt::generate(writer);
     TrainerArt::generate(writer);
+    FrameArt::generate(writer);
     GuitarSampleSynth::generate(writer);
     MetronomeSoundSynth::generate(writer);
 
