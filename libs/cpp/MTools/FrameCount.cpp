@@ -4,7 +4,7 @@
 
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
+#include <cstring>
 
 namespace MTools {
 
@@ -38,6 +38,43 @@ const unsigned int dropFrameFlag = 0x40;
 void logUnexpected(const char* file, int line)
 {
     qDebug().nospace() << "unexpected ERROR in " << file << " line " << line;
+}
+
+// atoi() of a two-character field: blanks, an optional sign, then digits.
+int fieldValue(const QChar* field)
+{
+    int i = 0;
+    const auto blank = [](QChar c) {
+        return c == QLatin1Char(' ') || (c >= QLatin1Char('\t') && c <= QLatin1Char('\r'));
+    };
+    while (i < 2 && blank(field[i]))
+        ++i;
+    int sign = 1;
+    if (i < 2 && (field[i] == QLatin1Char('-') || field[i] == QLatin1Char('+'))) {
+        sign = field[i] == QLatin1Char('-') ? -1 : 1;
+        ++i;
+    }
+    int value = 0;
+    for (; i < 2 && field[i] >= QLatin1Char('0') && field[i] <= QLatin1Char('9'); ++i)
+        value = value * 10 + (field[i].unicode() - '0');
+    return sign * value;
+}
+
+// "%02d%c%02d%c%02d%c%02d"; a zero separator ends the text there.
+QString formatTimecode(int h, char first, int m, char second, int s, char third, int f)
+{
+    char buffer[64];
+    if (h >= 0 && h < 100 && m >= 0 && m < 100 && s >= 0 && s < 100 && f >= 0 && f < 100) {
+        const char text[] = {char('0' + h / 10), char('0' + h % 10), first,
+                             char('0' + m / 10), char('0' + m % 10), second,
+                             char('0' + s / 10), char('0' + s % 10), third,
+                             char('0' + f / 10), char('0' + f % 10), '\0'};
+        std::memcpy(buffer, text, sizeof text);
+    } else {
+        std::snprintf(buffer, sizeof buffer, "%02d%c%02d%c%02d%c%02d", h, first, m, second, s,
+                      third, f);
+    }
+    return QString::fromLatin1(buffer);
 }
 
 // Moves the time one second forward, minutes and hours following; hours wrap at 24.
@@ -156,10 +193,9 @@ FipTime FrameCount::frameCountFromTimecode(const QString& text, bool pulldown, i
 {
     if (text.size() != 11)
         return unknownFrame;
-    const auto field = [&text](int position) {
-        return std::atoi(text.mid(position, 2).toLatin1().constData());
-    };
-    return frameCountFromTimecode(field(0), field(3), field(6), field(9), pulldown, phase,
+    const QChar* digits = text.constData();
+    return frameCountFromTimecode(fieldValue(digits), fieldValue(digits + 3),
+                                  fieldValue(digits + 6), fieldValue(digits + 9), pulldown, phase,
                                   nullptr);
 }
 
@@ -263,10 +299,7 @@ QString FrameCount::timecodeFromFrameCount(bool wrap, bool pulldown, int phase) 
     int f = 0;
     timecodeFromFrameCount(&h, &m, &s, &f, wrap, 0, pulldown, phase);
     const char separator = isDropFrameRate(m_fps) ? ';' : ':';
-    char buffer[64];
-    std::snprintf(buffer, sizeof buffer, "%02d%c%02d%c%02d%c%02d", h, separator, m, separator, s,
-                  separator, f);
-    return QString::fromLatin1(buffer);
+    return formatTimecode(h, separator, m, separator, s, separator, f);
 }
 
 QString FrameCount::timecodeToString(int h, int m, int s, int f, bool drop, float fps, bool film)
@@ -281,10 +314,7 @@ QString FrameCount::timecodeToString(int h, int m, int s, int f, bool drop, floa
         else
             frameSeparator = '\0'; // no known film rate: the text ends after the seconds
     }
-    char buffer[64];
-    std::snprintf(buffer, sizeof buffer, "%02d%c%02d%c%02d%c%02d", h, separator, m, separator, s,
-                  frameSeparator, f);
-    return QString::fromLatin1(buffer);
+    return formatTimecode(h, separator, m, separator, s, frameSeparator, f);
 }
 
 QString FrameCount::timecodeToString(int h, int m, int s, int f, bool drop) const

@@ -221,6 +221,11 @@ void tst_FrameCount::textParsing_data()
     QTest::newRow("10 characters") << 25.0f << "1:02:03:04" << unknown;
     QTest::newRow("12 characters") << 25.0f << "001:02:03:04" << unknown;
     QTest::newRow("empty") << 25.0f << "" << unknown;
+    QTest::newRow("blank before a digit") << 25.0f << " 1:02:03:04" << 93079LL;
+    QTest::newRow("plus sign") << 25.0f << "+1:02:03:04" << 93079LL;
+    QTest::newRow("minus sign") << 25.0f << "-1:00:00:00" << -90000LL;
+    QTest::newRow("letter ends a number") << 25.0f << "1x:02:03:04" << 93079LL;
+    QTest::newRow("letter first reads 0") << 25.0f << "x1:02:03:04" << 3079LL;
 }
 
 void tst_FrameCount::textParsing()
@@ -245,30 +250,37 @@ void tst_FrameCount::rateZeroIsNeutral()
 
 void tst_FrameCount::timecodeToString_data()
 {
+    QTest::addColumn<int>("h");
+    QTest::addColumn<int>("f");
     QTest::addColumn<bool>("drop");
     QTest::addColumn<float>("fps");
     QTest::addColumn<bool>("film");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("plain") << false << 25.0f << false << "01:02:03:04";
-    QTest::newRow("plain drop") << true << 29.97f << false << "01;02;03;04";
-    QTest::newRow("film 24 shows plus") << false << 24.0f << true << "01:02:03+04";
-    QTest::newRow("film 25") << false << 25.0f << true << "01:02:03:04";
-    QTest::newRow("film 30") << false << 30.0f << true << "01:02:03:04";
-    QTest::newRow("film at other rate ends after seconds") << false << 29.97f << true << "01:02:03";
-    QTest::newRow("film with drop") << true << 24.0f << true << "01;02;03;04";
+    QTest::newRow("plain") << 1 << 4 << false << 25.0f << false << "01:02:03:04";
+    QTest::newRow("plain drop") << 1 << 4 << true << 29.97f << false << "01;02;03;04";
+    QTest::newRow("film 24 shows plus") << 1 << 4 << false << 24.0f << true << "01:02:03+04";
+    QTest::newRow("film 25") << 1 << 4 << false << 25.0f << true << "01:02:03:04";
+    QTest::newRow("film 30") << 1 << 4 << false << 30.0f << true << "01:02:03:04";
+    QTest::newRow("film at other rate ends after seconds") << 1 << 4 << false << 29.97f << true << "01:02:03";
+    QTest::newRow("film with drop") << 1 << 4 << true << 24.0f << true << "01;02;03;04";
+    QTest::newRow("three-digit hours") << 123 << 4 << false << 25.0f << false << "123:02:03:04";
+    QTest::newRow("negative frame") << 1 << -1 << false << 25.0f << false << "01:02:03:-1";
+    QTest::newRow("largest two digits") << 99 << 99 << false << 25.0f << false << "99:02:03:99";
 }
 
 void tst_FrameCount::timecodeToString()
 {
+    QFETCH(int, h);
+    QFETCH(int, f);
     QFETCH(bool, drop);
     QFETCH(float, fps);
     QFETCH(bool, film);
     QFETCH(QString, expected);
 
-    QCOMPARE(FrameCount::timecodeToString(1, 2, 3, 4, drop, fps, film), expected);
+    QCOMPARE(FrameCount::timecodeToString(h, 2, 3, f, drop, fps, film), expected);
     if (!film)
-        QCOMPARE(FrameCount(0, fps).timecodeToString(1, 2, 3, 4, drop), expected);
+        QCOMPARE(FrameCount(0, fps).timecodeToString(h, 2, 3, f, drop), expected);
 }
 
 void tst_FrameCount::pulldownInsert_data()
