@@ -39,10 +39,14 @@ TranslationsManager::TranslationsManager(QObject* parent)
     , m_appTranslator(new QTranslator(this))
 {
     initLibraryCatalogues();
+    setTranslation(initialLanguage());
+}
+
+QString TranslationsManager::initialLanguage()
+{
     const QString systemName = QLocale::system().name();
-    App* app = App::theApp();
-    const QString stored = app ? app->settingsValue(QStringLiteral("Language"), systemName).toString() : systemName;
-    setTranslation(languageFor(stored));
+    const App* app = App::theApp();
+    return languageFor(app ? app->settingsValue(QStringLiteral("Language"), systemName).toString() : systemName);
 }
 
 QString TranslationsManager::languageFor(const QString& localeOrCode)

@@ -28,6 +28,8 @@ public:
 
     // The first known code that occurs in the text ("de_DE" gives "de"), else "en".
     static QString languageFor(const QString& localeOrCode);
+    // The language a start chooses: the stored "Language", else the system locale.
+    static QString initialLanguage();
     // The three catalogue resources for a language, in load order.
     QString qtCatalogue(const QString& language) const;
     QString libsCatalogue(const QString& language) const;
