@@ -1,8 +1,10 @@
 #include "App.h"
 
+#include "AboutDialog.h"
 #include "App_mac.h"
 #include "BlenderWidget.h"
 #include "CorvaneSite.h"
+#include "HelpDialog.h"
 #include "TranslationsManager.h"
 
 #include <QDateTime>
@@ -715,9 +717,25 @@ void App::slotShareApp() { }
 
 void App::slotJoin() { }
 
-void App::slotAbout() { }
+void App::slotAbout()
+{
+    auto* dialog = new AboutDialog(m_mainWidget);
+    dialog->exec();
+    delete dialog;
+}
 
-void App::slotHelp() { }
+void App::slotHelp()
+{
+    // Made once and kept for the run, so the slide show goes on from the
+    // slide the user last saw.
+    if (!m_helpDialog) {
+        QWidget* parent = QApplication::activeWindow();
+        m_helpDialog = new HelpDialog(parent ? parent : mainWidget());
+        for (const QString& slide : m_introductionSlides)
+            m_helpDialog->addSlide(slide);
+    }
+    m_helpDialog->exec();
+}
 
 void App::slotCheckUpdate() { }
 

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "BaseMainPage.h"
+
+namespace QMMusic {
+
+class GuitarTonarium;
+
+// The window of the guitar note finder: the menu bar on top of the page.
+class GuitarTonariumMainPage : public BaseMainPage
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(GuitarTonariumMainPage)
+
+public:
+    explicit GuitarTonariumMainPage(QWidget* parent = nullptr);
+
+    GuitarTonarium* guitarTonarium() const;
+
+    void addShopMenu() override;
+
+private:
+    GuitarTonarium* m_guitarTonarium = nullptr;
+};
+
+} // namespace QMMusic
