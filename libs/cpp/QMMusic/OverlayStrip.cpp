@@ -54,6 +54,9 @@ QPixmap OverlayStrip::keepStrip(const QPixmap& overlay, int startColumn, qreal r
     if (overlay.isNull())
         return overlay;
     QImage image = overlay.toImage().convertToFormat(QImage::Format_ARGB32);
+    // Pictures named "@2x" load with a pixel ratio of 2; the strip is
+    // measured and erased in pixels.
+    image.setDevicePixelRatio(1.0);
     const int found = findMarkColumn(image, startColumn);
 
     QPainter painter(&image);

@@ -1,0 +1,297 @@
+#include "GuitarBoard.h"
+#include "NoteSpelling.h"
+
+#include <QFile>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QtTest>
+
+using QMMusic::GuitarBoard;
+using QMMusic::NoteSpelling;
+
+namespace {
+
+bool isLightBlue(QRgb pixel)
+{
+    return qRed(pixel) < 130 && qGreen(pixel) > 160 && qBlue(pixel) > 170;
+}
+
+// The five places of E4 in design units: open string 1, fret 5 of string
+// 2, fret 9 of string 3, fret 14 of string 4, fret 19 of string 5.
+const QList<QPoint> kE4Places = { { 106, 78 }, { 300, 89 }, { 438, 102 }, { 587, 116 }, { 706, 133 } };
+
+} // namespace
+
+class TestGuitarBoard : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void overlayOfEveryTrainingNote_data();
+    void overlayOfEveryTrainingNote();
+    void heightFollowsWidth_data();
+    void heightFollowsWidth();
+    void pressNamesTheNote_data();
+    void pressNamesTheNote();
+    void pressBetweenBoxesKeepsTheNote();
+    void pressWhileTraining_data();
+    void pressWhileTraining();
+    void setNoteRespellsQuietly_data();
+    void setNoteRespellsQuietly();
+    void nextNoteDrawsATrainingNote();
+    void modeSwitch();
+    void paintShowsPlaces_data();
+    void paintShowsPlaces();
+
+private:
+    static QPoint widgetPoint(const GuitarBoard& board, const QPoint& design);
+    static int litPlaces(GuitarBoard& board, const QList<QPoint>& places);
+};
+
+QPoint TestGuitarBoard::widgetPoint(const GuitarBoard& board, const QPoint& design)
+{
+    // The centre of the widget pixels that truncate to this design point.
+    return QPoint(int((design.x() + 0.5) * board.width() / 800.0), int((design.y() + 0.5) * board.height() / 194.0));
+}
+
+int TestGuitarBoard::litPlaces(GuitarBoard& board, const QList<QPoint>& places)
+{
+    const QImage image = board.grab().toImage();
+    int lit = 0;
+    for (const QPoint& place : places)
+        lit += isLightBlue(image.pixel(widgetPoint(board, place))) ? 1 : 0;
+    return lit;
+}
+
+void TestGuitarBoard::overlayOfEveryTrainingNote_data()
+{
+    QTest::addColumn<QString>("position");
+    GuitarBoard board;
+    for (const QString& position : board.trainingNotes())
+        QTest::newRow(qPrintable(position)) << position;
+}
+
+void TestGuitarBoard::overlayOfEveryTrainingNote()
+{
+    QFETCH(QString, position);
+    GuitarBoard board;
+    QCOMPARE(board.trainingNotes().size(), 47);
+    QCOMPARE(board.overlayMap().size(), 47);
+    const QString stem = NoteSpelling::positionStem(position);
+    const QString key = QStringLiteral(":/Guitar_%1.png").arg(stem);
+    QVERIFY2(board.overlayMap().contains(key), qPrintable(key));
+    const QString file = board.overlayMap().value(key);
+    QCOMPARE(file, QStringLiteral(":/Guitar_%1@2x.png").arg(stem));
+    QVERIFY2(QFile::exists(file), qPrintable(file));
+}
+
+void TestGuitarBoard::heightFollowsWidth_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::newRow("design width") << 800 << 194;
+    QTest::newRow("benchmark width") << 1280 << 310;
+    QTest::newRow("double width") << 1600 << 388;
+}
+
+void TestGuitarBoard::heightFollowsWidth()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    GuitarBoard board;
+    board.resize(width, 600);
+    board.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&board));
+    QCOMPARE(board.width(), width);
+    QCOMPARE(board.height(), height);
+}
+
+void TestGuitarBoard::pressNamesTheNote_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<QPoint>("design");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("accidental");
+    QTest::addColumn<QString>("stem");
+
+    QTest::newRow("open E2 at the nut") << 800 << QPoint(104, 132) << "E2" << 0 << "E2";
+    QTest::newRow("open E2 at the far end") << 800 << QPoint(787, 149) << "E2" << 0 << "E2";
+    QTest::newRow("fret 2 of string 6 is a sharp") << 800 << QPoint(182, 136) << "F2" << 1 << "Fd2";
+    QTest::newRow("fret 5 of string 6") << 800 << QPoint(300, 139) << "A2" << 0 << "A2";
+    QTest::newRow("overlap of E4 and B3") << 800 << QPoint(100, 82) << "B3" << 0 << "B3";
+    QTest::newRow("fret 22 of string 1") << 800 << QPoint(767, 74) << "D6" << 0 << "D6";
+    QTest::newRow("double size, fret 2 of string 6") << 1600 << QPoint(182, 136) << "F2" << 1 << "Fd2";
+    QTest::newRow("double size, overlap of frets 10 and 11") << 1600 << QPoint(484, 140) << "D3" << 0 << "D3";
+    QTest::newRow("double size, fret 21 of string 2") << 1600 << QPoint(749, 88) << "G5" << 1 << "Gd5";
+}
+
+void TestGuitarBoard::pressNamesTheNote()
+{
+    QFETCH(int, width);
+    QFETCH(QPoint, design);
+    QFETCH(QString, name);
+    QFETCH(int, accidental);
+    QFETCH(QString, stem);
+
+    GuitarBoard board;
+    board.resize(width, 600);
+    board.show();
+    QCOMPARE(board.height(), width * 194 / 800);
+    QSignalSpy spy(&board, &GuitarBoard::noteChanged);
+    QTest::mouseClick(&board, Qt::LeftButton, Qt::NoModifier, widgetPoint(board, design));
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).toString(), name);
+    QCOMPARE(spy.at(0).at(1).toInt(), accidental);
+    QCOMPARE(board.currentNote(), stem);
+}
+
+void TestGuitarBoard::pressBetweenBoxesKeepsTheNote()
+{
+    GuitarBoard board;
+    board.resize(800, 600);
+    board.show();
+    QTest::mouseClick(&board, Qt::LeftButton, Qt::NoModifier, widgetPoint(board, QPoint(300, 139)));
+    QCOMPARE(board.currentNote(), QStringLiteral("A2"));
+
+    QSignalSpy spy(&board, &GuitarBoard::noteChanged);
+    QTest::mouseClick(&board, Qt::LeftButton, Qt::NoModifier, widgetPoint(board, QPoint(120, 132)));
+    QTest::mouseClick(&board, Qt::LeftButton, Qt::NoModifier, widgetPoint(board, QPoint(400, 20)));
+    QCOMPARE(spy.count(), 0);
+    QCOMPARE(board.currentNote(), QStringLiteral("A2"));
+}
+
+void TestGuitarBoard::pressWhileTraining_data()
+{
+    QTest::addColumn<bool>("trainingSelected");
+    QTest::addColumn<bool>("runOn");
+    QTest::addColumn<int>("emitted");
+
+    QTest::newRow("find note") << false << false << 1;
+    QTest::newRow("training selected, no run yet") << true << false << 1;
+    QTest::newRow("training run on") << true << true << 0;
+}
+
+void TestGuitarBoard::pressWhileTraining()
+{
+    QFETCH(bool, trainingSelected);
+    QFETCH(bool, runOn);
+    QFETCH(int, emitted);
+
+    GuitarBoard board;
+    board.resize(800, 600);
+    board.show();
+    if (trainingSelected)
+        board.setTrainButtonChecked();
+    board.slotSetInTraining(runOn);
+    QCOMPARE(board.isInTraining(), runOn);
+
+    QSignalSpy spy(&board, &GuitarBoard::noteChanged);
+    QTest::mouseClick(&board, Qt::LeftButton, Qt::NoModifier, widgetPoint(board, QPoint(104, 132)));
+    QCOMPARE(spy.count(), emitted);
+    QCOMPARE(board.currentNote(), emitted ? QStringLiteral("E2") : QString());
+}
+
+void TestGuitarBoard::setNoteRespellsQuietly_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("accidental");
+    QTest::addColumn<QString>("stem");
+
+    QTest::newRow("B3 sharp") << "B3" << 1 << "C4";
+    QTest::newRow("C4 flat") << "C4" << -1 << "B3";
+    QTest::newRow("E4 sharp") << "E4" << 1 << "F4";
+    QTest::newRow("F4 flat") << "F4" << -1 << "E4";
+    QTest::newRow("A2 flat") << "A2" << -1 << "Gd2";
+    QTest::newRow("accidental 5") << "F2" << 5 << "Fd2";
+    QTest::newRow("accidental -5") << "B3" << -5 << "Ad3";
+    QTest::newRow("outside the guitar") << "C1" << 0 << "C1";
+}
+
+void TestGuitarBoard::setNoteRespellsQuietly()
+{
+    QFETCH(QString, name);
+    QFETCH(int, accidental);
+    QFETCH(QString, stem);
+
+    GuitarBoard board;
+    QSignalSpy spy(&board, &GuitarBoard::noteChanged);
+    board.slotSetNote(name, accidental);
+    QCOMPARE(board.currentNote(), stem);
+    QCOMPARE(spy.count(), 0);
+    // A note without a picture paints the bare neck without failing.
+    QVERIFY(!board.grab().isNull());
+}
+
+void TestGuitarBoard::nextNoteDrawsATrainingNote()
+{
+    GuitarBoard board;
+    QSignalSpy spy(&board, &GuitarBoard::noteChanged);
+    for (int draw = 0; draw < 10; ++draw) {
+        board.slotNextNote();
+        QCOMPARE(spy.count(), draw + 1);
+        const QString name = spy.last().at(0).toString();
+        const int accidental = spy.last().at(1).toInt();
+        const QString position = name + (accidental ? QStringLiteral("#") : QString());
+        QVERIFY2(board.trainingNotes().contains(position), qPrintable(position));
+        QCOMPARE(board.currentNote(), NoteSpelling::stem(name, accidental));
+    }
+}
+
+void TestGuitarBoard::modeSwitch()
+{
+    GuitarBoard board;
+    auto* findNote = board.findChild<QPushButton*>(QStringLiteral("DualButtonLeft"));
+    auto* training = board.findChild<QPushButton*>(QStringLiteral("DualButtonRight"));
+    QVERIFY(findNote && training);
+    QVERIFY(findNote->isChecked());
+    QVERIFY(!training->isChecked());
+
+    QSignalSpy trainingSpy(&board, &GuitarBoard::traningSelected);
+    QSignalSpy findSpy(&board, &GuitarBoard::findNoteSelected);
+    training->click();
+    QCOMPARE(trainingSpy.count(), 1);
+    QCOMPARE(findSpy.count(), 0);
+    QVERIFY(training->isChecked());
+    QVERIFY(!findNote->isChecked());
+    // Selecting the mode does not start a run.
+    QVERIFY(!board.isInTraining());
+
+    findNote->click();
+    QCOMPARE(findSpy.count(), 1);
+    QVERIFY(!training->isChecked());
+    board.setTrainButtonChecked();
+    QVERIFY(training->isChecked());
+    QCOMPARE(trainingSpy.count(), 1);
+}
+
+void TestGuitarBoard::paintShowsPlaces_data()
+{
+    QTest::addColumn<QString>("note");
+    QTest::addColumn<bool>("runOn");
+    QTest::addColumn<int>("lit");
+
+    QTest::newRow("no note: bare neck") << "" << false << 0;
+    QTest::newRow("E4 lights all five places") << "E4" << false << 5;
+    QTest::newRow("E4 in a run lights one place") << "E4" << true << 1;
+    QTest::newRow("another note lights none of E4's") << "F4" << false << 0;
+}
+
+void TestGuitarBoard::paintShowsPlaces()
+{
+    QFETCH(QString, note);
+    QFETCH(bool, runOn);
+    QFETCH(int, lit);
+
+    GuitarBoard board;
+    board.resize(800, 600);
+    board.show();
+    if (!note.isEmpty())
+        board.slotSetNote(note, 0);
+    board.slotSetInTraining(runOn);
+    // In a run each paint may pick another place; every paint shows one.
+    for (int paint = 0; paint < (runOn ? 5 : 1); ++paint)
+        QCOMPARE(litPlaces(board, kE4Places), lit);
+}
+
+QTEST_MAIN(TestGuitarBoard)
+#include "tst_guitarboard.moc"
