@@ -6,6 +6,7 @@
 #include "MetronomeSoundSynth.h"
 #include "NeckArt.h"
 #include "PageArt.h"
+#include "StaffArt.h"
 #include "TrainerArt.h"
 
 #include <QCommandLineParser>
@@ -28,6 +29,7 @@ int main(int argc, char* argv[])
 
     ArtWriter writer(parser.value(picturesOption), parser.value(bundleOption));
     LookArt::generate(writer);
+    StaffArt::generate(writer);
     NeckArt::generate(writer);
     PageArt::generate(writer);
     TrainerArt::generate(writer);

@@ -1,0 +1,446 @@
+#include "NotesWidget.h"
+#include "StaffGeometry.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QtTest>
+
+using QMMusic::NotesWidget;
+using QMMusic::StaffGeometry;
+
+namespace {
+
+// Keeps the paths of the presses instead of sounding them.
+class RecordingNotesWidget : public NotesWidget
+{
+public:
+    QStringList played;
+
+protected:
+    void playSample(const QString& path) override { played.append(path); }
+};
+
+struct StaffSettings
+{
+    int startLine;
+    int lines;
+    int translateLines;
+    float paperHeightFactor;
+    bool noBass;
+    bool noViolin;
+};
+
+// Each instrument's staff as its page sets it up; the piano keeps the defaults.
+StaffSettings settingsOf(const QString& instrument)
+{
+    if (instrument == QLatin1String("guitar"))
+        return { 8, 22, 5, 1.3f, false, false };
+    if (instrument == QLatin1String("ukulele"))
+        return { 8, 16, 6, 1.6f, true, false };
+    if (instrument == QLatin1String("violin"))
+        return { 8, 17, 6, 1.55f, true, false };
+    if (instrument == QLatin1String("bass"))
+        return { 15, 25, 12, 1.94f, false, true };
+    if (instrument == QLatin1String("balalaika"))
+        return { 7, 15, 6, 1.53f, true, false };
+    if (instrument == QLatin1String("banjo"))
+        return { 8, 19, 5, 1.42f, true, false };
+    if (instrument == QLatin1String("mandolin"))
+        return { 6, 17, 5, 1.42f, true, false };
+    return { 0, 27, 0, 1.0f, false, false };
+}
+
+void configure(NotesWidget& widget, const QString& instrument)
+{
+    const StaffSettings s = settingsOf(instrument.toLower());
+    widget.setStartLine(s.startLine);
+    widget.setLines(s.lines);
+    widget.setTranslateLines(s.translateLines);
+    widget.setPaperHeightFactor(s.paperHeightFactor);
+    widget.setNoBass(s.noBass);
+    widget.setNoViolin(s.noViolin);
+    widget.setInstrumentName(instrument);
+}
+
+QString labelText(const QString& sign, const QString& name, const QString& solfege)
+{
+    return QStringLiteral("<CENTER><FONT SIZE=\"10\">") + sign + name + QStringLiteral("</FONT><br><FONT SIZE=\"5\">(")
+        + sign + solfege + QStringLiteral(")</FONT></CENTER>");
+}
+
+const QString kFlatLabelSign = QStringLiteral("<b>") + QChar(0x266D) + QStringLiteral("</b>");
+
+void hover(QWidget& widget, int y)
+{
+    QMouseEvent move(QEvent::MouseMove, QPointF(widget.width() / 3, y), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &move);
+    widget.repaint();
+}
+
+// Runs the widget's own paint (which names the note) with everything clipped
+// away but one pixel, so that a thousand heights stay quick.
+void paintOnly(QWidget& widget)
+{
+    static QImage target(1, 1, QImage::Format_ARGB32_Premultiplied);
+    widget.render(&target, QPoint(), QRegion(0, 0, 1, 1), QWidget::RenderFlags());
+}
+
+QPushButton* button(NotesWidget& widget, const char* objectName)
+{
+    return widget.findChild<QPushButton*>(QLatin1String(objectName));
+}
+
+const char* const kInstruments[] = { "guitar", "piano", "ukulele", "bass", "violin", "mandolin", "banjo", "balalaika" };
+
+} // namespace
+
+class TestNotesWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tableRowsSnapBackInAPaint_data();
+    void tableRowsSnapBackInAPaint();
+    void referenceHeightGivesTheTunedRow_data();
+    void referenceHeightGivesTheTunedRow();
+    void hoverAboveTheLimitChangesNothing_data();
+    void hoverAboveTheLimitChangesNothing();
+    void hoverLabel_data();
+    void hoverLabel();
+    void pressPlaysTheRespelledSample_data();
+    void pressPlaysTheRespelledSample();
+    void showNoteMovesTheHead_data();
+    void showNoteMovesTheHead();
+    void showNoteWithUnknownName_data();
+    void showNoteWithUnknownName();
+    void signPressedAfterANoteWaitsForTheNext_data();
+    void signPressedAfterANoteWaitsForTheNext();
+    void signButtonsAreExclusive_data();
+    void signButtonsAreExclusive();
+};
+
+void TestNotesWidget::tableRowsSnapBackInAPaint_data()
+{
+    QTest::addColumn<QString>("instrument");
+    for (const char* instrument : kInstruments)
+        QTest::newRow(instrument) << QString::fromLatin1(instrument);
+}
+
+void TestNotesWidget::tableRowsSnapBackInAPaint()
+{
+    QFETCH(QString, instrument);
+    // Shown without a window on screen, so a resize costs no window resize.
+    NotesWidget widget;
+    configure(widget, instrument);
+    widget.setAttribute(Qt::WA_DontShowOnScreen);
+    widget.show();
+    QSignalSpy spy(&widget, &NotesWidget::noteChanged);
+
+    const auto rows = StaffGeometry::referenceRows(instrument);
+    QVERIFY(!rows.isEmpty());
+    for (int height = 200; height <= 1200; ++height) {
+        widget.resize(160, height);
+        // Each row differs from the one before, so each paint reports.
+        for (const auto& row : rows) {
+            spy.clear();
+            widget.slotShowNote(row.first, 0);
+            paintOnly(widget);
+            const QString named = spy.isEmpty() ? QString() : spy.last().at(0).toString();
+            if (named != row.first)
+                QFAIL(qPrintable(QStringLiteral("%1 at height %2 (row %3) painted as \"%4\"")
+                                     .arg(row.first).arg(height).arg(widget.nameToPos(row.first).y()).arg(named)));
+        }
+    }
+}
+
+void TestNotesWidget::referenceHeightGivesTheTunedRow_data()
+{
+    tableRowsSnapBackInAPaint_data();
+}
+
+void TestNotesWidget::referenceHeightGivesTheTunedRow()
+{
+    QFETCH(QString, instrument);
+    NotesWidget widget;
+    configure(widget, instrument);
+    widget.resize(300, StaffGeometry::referenceHeight);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    for (const auto& row : StaffGeometry::referenceRows(instrument))
+        QCOMPARE(widget.nameToPos(row.first), QPoint(10, row.second));
+    QCOMPARE(widget.nameToPos(QStringLiteral("C9")), QPoint(10, 0));
+}
+
+void TestNotesWidget::hoverAboveTheLimitChangesNothing_data()
+{
+    QTest::addColumn<int>("y");
+    QTest::addColumn<QString>("named");
+
+    // Guitar staff 324 high: line 8 (C6) lies at y 57.4, one line is 19.1
+    // high; D6 in the space above is the last note that is drawn.
+    QTest::newRow("on the first line names C6 as usual") << 58 << "C6";
+    QTest::newRow("the space above names D6") << 48 << "D6";
+    QTest::newRow("a pixel higher is refused") << 47 << "";
+    QTest::newRow("top edge is refused") << 1 << "";
+}
+
+void TestNotesWidget::hoverAboveTheLimitChangesNothing()
+{
+    QFETCH(int, y);
+    QFETCH(QString, named);
+    NotesWidget widget;
+    configure(widget, QStringLiteral("guitar"));
+    widget.resize(400, 324);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    auto* label = widget.findChild<QLabel*>(QStringLiteral("NoteLabel"));
+    QVERIFY(label);
+
+    hover(widget, 175);
+    const QString e4Label = label->text();
+    QCOMPARE(e4Label, labelText(QString(), QStringLiteral("E4"), QStringLiteral("mi4")));
+
+    QSignalSpy spy(&widget, &NotesWidget::noteChanged);
+    hover(widget, y);
+    if (named.isEmpty()) {
+        QCOMPARE(spy.count(), 0);
+        QCOMPARE(label->text(), e4Label);
+    } else {
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.at(0).at(0).toString(), named);
+    }
+}
+
+void TestNotesWidget::hoverLabel_data()
+{
+    QTest::addColumn<QString>("sign");
+    QTest::addColumn<int>("y");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<int>("accidental");
+
+    // Guitar staff 324 high: F2 at 301, E4 at 175, B3 at 203.
+    QTest::newRow("sharp F2") << "SharpSignButton" << 301 << labelText("#", "F2", "fa2") << 1;
+    QTest::newRow("flat B3") << "FlatSignButton" << 203 << labelText(kFlatLabelSign, "B3", "si3") << -1;
+    QTest::newRow("natural E4") << "NaturalSignButton" << 175 << labelText("", "E4", "mi4") << 0;
+}
+
+void TestNotesWidget::hoverLabel()
+{
+    QFETCH(QString, sign);
+    QFETCH(int, y);
+    QFETCH(QString, label);
+    QFETCH(int, accidental);
+    RecordingNotesWidget widget;
+    configure(widget, QStringLiteral("guitar"));
+    widget.resize(400, 324);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QTest::mouseClick(button(widget, qPrintable(sign)), Qt::LeftButton);
+
+    QSignalSpy spy(&widget, &NotesWidget::noteChanged);
+    hover(widget, y);
+    QCOMPARE(widget.findChild<QLabel*>(QStringLiteral("NoteLabel"))->text(), label);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(1).toInt(), accidental);
+    QVERIFY(widget.played.isEmpty());
+}
+
+void TestNotesWidget::pressPlaysTheRespelledSample_data()
+{
+    QTest::addColumn<QString>("sign");
+    QTest::addColumn<int>("y");
+    QTest::addColumn<QString>("named");
+    QTest::addColumn<QString>("sample");
+
+    // Guitar staff 324 high.
+    QTest::newRow("sharp E4 plays F4") << "SharpSignButton" << 175 << "E4" << "guitar_440_F4.mp3";
+    QTest::newRow("sharp B3 plays C4") << "SharpSignButton" << 203 << "B3" << "guitar_440_C4.mp3";
+    QTest::newRow("flat C4 plays B3") << "FlatSignButton" << 194 << "C4" << "guitar_440_B3.mp3";
+    QTest::newRow("sharp F2 plays Fd2") << "SharpSignButton" << 301 << "F2" << "guitar_440_Fd2.mp3";
+    QTest::newRow("flat A2 plays Gd2") << "FlatSignButton" << 279 << "A2" << "guitar_440_Gd2.mp3";
+    QTest::newRow("natural G2 plays G2") << "NaturalSignButton" << 288 << "G2" << "guitar_440_G2.mp3";
+    QTest::newRow("refused press plays a name that no file has") << "NaturalSignButton" << 5 << ""
+                                                                  << "guitar_440_.mp3";
+}
+
+void TestNotesWidget::pressPlaysTheRespelledSample()
+{
+    QFETCH(QString, sign);
+    QFETCH(int, y);
+    QFETCH(QString, named);
+    QFETCH(QString, sample);
+    RecordingNotesWidget widget;
+    configure(widget, QStringLiteral("Guitar"));
+    widget.resize(400, 324);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QTest::mouseClick(button(widget, qPrintable(sign)), Qt::LeftButton);
+
+    // Hovering first: the press must report and sound the note all the same.
+    hover(widget, y);
+    QSignalSpy spy(&widget, &NotesWidget::noteChanged);
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(50, y));
+    QCOMPARE(widget.played.size(), 1);
+    QVERIFY2(widget.played.first().endsWith(QLatin1Char('/') + sample) || widget.played.first() == sample,
+             qPrintable(widget.played.first()));
+    QCOMPARE(spy.count(), named.isEmpty() ? 0 : 1);
+    if (!named.isEmpty())
+        QCOMPARE(spy.at(0).at(0).toString(), named);
+}
+
+void TestNotesWidget::showNoteMovesTheHead_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("accidental");
+    QTest::addColumn<QString>("shownLabel");
+    QTest::addColumn<QString>("paintedLabel");
+
+    QTest::newRow("E4 natural") << "E4" << 0 << labelText("", "E4", "mi") << labelText("", "E4", "mi4");
+    QTest::newRow("G2 sharp") << "G2" << 1 << labelText("#", "G2", "sol") << labelText("#", "G2", "sol2");
+    QTest::newRow("D6 flat") << "D6" << -1 << labelText(kFlatLabelSign, "D6", "re")
+                             << labelText(kFlatLabelSign, "D6", "re6");
+}
+
+void TestNotesWidget::showNoteMovesTheHead()
+{
+    QFETCH(QString, name);
+    QFETCH(int, accidental);
+    QFETCH(QString, shownLabel);
+    QFETCH(QString, paintedLabel);
+    NotesWidget widget;
+    configure(widget, QStringLiteral("guitar"));
+    widget.resize(400, 324);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    auto* label = widget.findChild<QLabel*>(QStringLiteral("NoteLabel"));
+    QSignalSpy spy(&widget, &NotesWidget::noteChanged);
+
+    widget.slotShowNote(name, accidental);
+    QCOMPARE(label->text(), shownLabel);
+    QCOMPARE(widget.isFlat(), accidental < 0);
+    QCOMPARE(widget.isSharp(), accidental > 0);
+    QCOMPARE(widget.isNatural(), accidental == 0);
+    QCOMPARE(spy.count(), 0);
+
+    // The scheduled paint reports the note back and completes the label.
+    QTRY_COMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).toString(), name);
+    QCOMPARE(spy.at(0).at(1).toInt(), accidental);
+    QCOMPARE(label->text(), paintedLabel);
+
+    // The same letter and octave again counts as unchanged: the label keeps
+    // the syllable without octave and nothing is reported.
+    widget.slotShowNote(name, accidental);
+    widget.repaint();
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(label->text(), shownLabel);
+}
+
+void TestNotesWidget::showNoteWithUnknownName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("accidental");
+    QTest::addColumn<QString>("label");
+
+    QTest::newRow("below the guitar's range, sharp") << "D2" << 1 << labelText("#", "D2", "re");
+    QTest::newRow("a position name") << "F2#" << 0 << labelText("", "F2#", "fa");
+    QTest::newRow("no letter at all, flat") << "X" << -1 << labelText(kFlatLabelSign, "X", "si");
+    QTest::newRow("empty") << "" << 0 << labelText("", "", "si");
+}
+
+void TestNotesWidget::showNoteWithUnknownName()
+{
+    QFETCH(QString, name);
+    QFETCH(int, accidental);
+    QFETCH(QString, label);
+    NotesWidget widget;
+    configure(widget, QStringLiteral("guitar"));
+    widget.resize(400, 324);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    hover(widget, 175);
+
+    QSignalSpy spy(&widget, &NotesWidget::noteChanged);
+    widget.slotShowNote(name, accidental);
+    widget.repaint();
+    QCOMPARE(widget.findChild<QLabel*>(QStringLiteral("NoteLabel"))->text(), label);
+    QCOMPARE(widget.isFlat(), accidental < 0);
+    QCOMPARE(widget.isSharp(), accidental > 0);
+    // The head stays on E4: the paint finds the same name and reports nothing.
+    QCOMPARE(spy.count(), 0);
+    hover(widget, 175);
+    QCOMPARE(spy.count(), 0);
+}
+
+void TestNotesWidget::signPressedAfterANoteWaitsForTheNext_data()
+{
+    QTest::addColumn<QString>("sign");
+    QTest::addColumn<QString>("nextLabel");
+    QTest::addColumn<int>("accidental");
+
+    QTest::newRow("sharp") << "SharpSignButton" << labelText("#", "C4", "do4") << 1;
+    QTest::newRow("flat") << "FlatSignButton" << labelText(kFlatLabelSign, "C4", "do4") << -1;
+}
+
+void TestNotesWidget::signPressedAfterANoteWaitsForTheNext()
+{
+    QFETCH(QString, sign);
+    QFETCH(QString, nextLabel);
+    QFETCH(int, accidental);
+    RecordingNotesWidget widget;
+    configure(widget, QStringLiteral("guitar"));
+    widget.resize(400, 324);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    auto* label = widget.findChild<QLabel*>(QStringLiteral("NoteLabel"));
+    hover(widget, 175);
+    const QString e4Label = label->text();
+
+    QSignalSpy spy(&widget, &NotesWidget::noteChanged);
+    QTest::mouseClick(button(widget, qPrintable(sign)), Qt::LeftButton);
+    QTest::qWait(20);
+    hover(widget, 176);
+    QCOMPARE(spy.count(), 0);
+    QCOMPARE(label->text(), e4Label);
+    QVERIFY(widget.played.isEmpty());
+
+    hover(widget, 194);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(1).toInt(), accidental);
+    QCOMPARE(label->text(), nextLabel);
+}
+
+void TestNotesWidget::signButtonsAreExclusive_data()
+{
+    QTest::addColumn<QStringList>("clicks");
+    QTest::addColumn<QString>("checked");
+
+    QTest::newRow("natural at start") << QStringList() << "NaturalSignButton";
+    QTest::newRow("flat") << QStringList{ "FlatSignButton" } << "FlatSignButton";
+    QTest::newRow("flat then sharp") << QStringList{ "FlatSignButton", "SharpSignButton" } << "SharpSignButton";
+    QTest::newRow("sharp then natural") << QStringList{ "SharpSignButton", "NaturalSignButton" }
+                                        << "NaturalSignButton";
+    QTest::newRow("clicking the checked one keeps it")
+        << QStringList{ "SharpSignButton", "SharpSignButton" } << "SharpSignButton";
+}
+
+void TestNotesWidget::signButtonsAreExclusive()
+{
+    QFETCH(QStringList, clicks);
+    QFETCH(QString, checked);
+    NotesWidget widget;
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    for (const QString& name : clicks)
+        QTest::mouseClick(button(widget, qPrintable(name)), Qt::LeftButton);
+    for (const char* name : { "FlatSignButton", "SharpSignButton", "NaturalSignButton" }) {
+        QPushButton* sign = button(widget, name);
+        QVERIFY(sign);
+        QCOMPARE(sign->isChecked(), checked == QLatin1String(name));
+    }
+}
+
+QTEST_MAIN(TestNotesWidget)
+#include "tst_noteswidget.moc"

@@ -1,0 +1,276 @@
+#include "StaffGeometry.h"
+
+#include <QtTest>
+
+using QMMusic::StaffGeometry;
+
+namespace {
+
+struct StaffSettings
+{
+    int startLine;
+    int lines;
+    int translateLines;
+    float paperHeightFactor;
+};
+
+// Each instrument's staff as its page sets it up.
+StaffSettings settingsOf(const QString& instrument)
+{
+    if (instrument == QLatin1String("guitar"))
+        return { 8, 22, 5, 1.3f };
+    if (instrument == QLatin1String("ukulele"))
+        return { 8, 16, 6, 1.6f };
+    if (instrument == QLatin1String("violin"))
+        return { 8, 17, 6, 1.55f };
+    if (instrument == QLatin1String("bass"))
+        return { 15, 25, 12, 1.94f };
+    if (instrument == QLatin1String("balalaika"))
+        return { 7, 15, 6, 1.53f };
+    if (instrument == QLatin1String("banjo"))
+        return { 8, 19, 5, 1.42f };
+    if (instrument == QLatin1String("mandolin"))
+        return { 6, 17, 5, 1.42f };
+    return { 0, 27, 0, 1.0f };
+}
+
+StaffGeometry geometryOf(const QString& instrument, int height)
+{
+    const StaffSettings s = settingsOf(instrument);
+    StaffGeometry geometry;
+    geometry.setHeight(height);
+    geometry.setStartLine(s.startLine);
+    geometry.setLines(s.lines);
+    geometry.setTranslateLines(s.translateLines);
+    geometry.setPaperHeightFactor(s.paperHeightFactor);
+    return geometry;
+}
+
+const char* const kInstruments[] = { "guitar", "piano", "ukulele", "bass", "violin", "mandolin", "banjo", "balalaika" };
+
+} // namespace
+
+class TestStaffGeometry : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void nameOfIndex_data();
+    void nameOfIndex();
+    void indexOfName_data();
+    void indexOfName();
+    void halfLineOfPixel_data();
+    void halfLineOfPixel();
+    void limitAboveStaff_data();
+    void limitAboveStaff();
+    void tableRowsNameTheirNoteAtEveryHeight_data();
+    void tableRowsNameTheirNoteAtEveryHeight();
+    void referenceHeightKeepsTheTunedRows_data();
+    void referenceHeightKeepsTheTunedRows();
+    void snapMovesOnlyAsFarAsNeeded_data();
+    void snapMovesOnlyAsFarAsNeeded();
+    void unknownInstrumentHasNoRows();
+    void boxes_data();
+    void boxes();
+};
+
+void TestStaffGeometry::nameOfIndex_data()
+{
+    QTest::addColumn<int>("halfLine");
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("C0 at the bottom of the range") << 58 << "C0";
+    QTest::newRow("B0 is the last of octave 0") << 52 << "B0";
+    QTest::newRow("C1 starts the next octave") << 51 << "C1";
+    QTest::newRow("middle C on the ledger line between the staves") << 30 << "C4";
+    QTest::newRow("E4 on the lowest treble line") << 28 << "E4";
+    QTest::newRow("F5 on the top treble line") << 20 << "F5";
+    QTest::newRow("G2 on the lowest bass line") << 40 << "G2";
+    QTest::newRow("E2 on the first ledger line below") << 42 << "E2";
+    QTest::newRow("B8 is the highest named") << -4 << "B8";
+    QTest::newRow("below C0 names nothing") << 59 << "";
+    QTest::newRow("above B8 names nothing") << -5 << "";
+}
+
+void TestStaffGeometry::nameOfIndex()
+{
+    QFETCH(int, halfLine);
+    QFETCH(QString, name);
+    QCOMPARE(StaffGeometry::nameOfIndex(halfLine), name);
+}
+
+void TestStaffGeometry::indexOfName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("known");
+    QTest::addColumn<int>("halfLine");
+
+    QTest::newRow("middle C") << "C4" << true << 30;
+    QTest::newRow("guitar's lowest") << "E2" << true << 42;
+    QTest::newRow("B of octave 3 lies just under C4") << "B3" << true << 31;
+    QTest::newRow("lower-case letter") << "e4" << false << 0;
+    QTest::newRow("position name with sharp") << "F2#" << false << 0;
+    QTest::newRow("no octave") << "E" << false << 0;
+    QTest::newRow("empty") << "" << false << 0;
+    QTest::newRow("H is no letter here") << "H3" << false << 0;
+}
+
+void TestStaffGeometry::indexOfName()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, known);
+    QFETCH(int, halfLine);
+    int index = 0;
+    QCOMPARE(StaffGeometry::indexOfName(name, &index), known);
+    if (known) {
+        QCOMPARE(index, halfLine);
+        QCOMPARE(StaffGeometry::nameOfIndex(index), name);
+    }
+}
+
+void TestStaffGeometry::halfLineOfPixel_data()
+{
+    QTest::addColumn<int>("y");
+    QTest::addColumn<int>("halfLine");
+
+    // Guitar staff 324 high: line height 19.145, shifted up by 5 lines.
+    QTest::newRow("E4's tuned row") << 175 << 28;
+    QTest::newRow("first row below line 14 (at 172.3)") << 173 << 28;
+    QTest::newRow("row just above line 14 belongs to the space above") << 172 << 27;
+    QTest::newRow("just before the next half-line") << 181 << 28;
+    QTest::newRow("next half-line") << 182 << 29;
+    QTest::newRow("middle C's row") << 194 << 30;
+    QTest::newRow("near the top of the widget") << 1 << 10;
+}
+
+void TestStaffGeometry::halfLineOfPixel()
+{
+    QFETCH(int, y);
+    QFETCH(int, halfLine);
+    QCOMPARE(geometryOf("guitar", 324).halfLineIndex(float(y)), halfLine);
+}
+
+void TestStaffGeometry::limitAboveStaff_data()
+{
+    QTest::addColumn<int>("halfLine");
+    QTest::addColumn<bool>("refused");
+
+    // Guitar: the first drawn line is line 8 (half-line 16); a head more than
+    // about one line above it is refused, nothing below the staff is.
+    QTest::newRow("on the first line") << 16 << false;
+    QTest::newRow("a space above the first line (D6)") << 15 << false;
+    QTest::newRow("a line above the first line") << 14 << true;
+    QTest::newRow("far above") << 2 << true;
+    QTest::newRow("far below the staff") << 60 << false;
+}
+
+void TestStaffGeometry::limitAboveStaff()
+{
+    QFETCH(int, halfLine);
+    QFETCH(bool, refused);
+    const StaffGeometry geometry = geometryOf("guitar", 324);
+    QCOMPARE(geometry.isAboveLimit(geometry.noteTop(halfLine)), refused);
+}
+
+void TestStaffGeometry::tableRowsNameTheirNoteAtEveryHeight_data()
+{
+    QTest::addColumn<QString>("instrument");
+    for (const char* instrument : kInstruments)
+        QTest::newRow(instrument) << QString::fromLatin1(instrument);
+}
+
+void TestStaffGeometry::tableRowsNameTheirNoteAtEveryHeight()
+{
+    QFETCH(QString, instrument);
+    const auto rows = StaffGeometry::referenceRows(instrument);
+    QVERIFY(!rows.isEmpty());
+    for (int height = 200; height <= 1200; ++height) {
+        const StaffGeometry geometry = geometryOf(instrument, height);
+        const QMap<QString, int> positions = geometry.namePositions(instrument);
+        QCOMPARE(positions.size(), rows.size());
+        for (const auto& row : rows) {
+            const int y = positions.value(row.first);
+            const int halfLine = geometry.halfLineIndex(float(y));
+            if (StaffGeometry::nameOfIndex(halfLine) != row.first)
+                QFAIL(qPrintable(QStringLiteral("%1 at height %2: row %3 names %4")
+                                     .arg(row.first).arg(height).arg(y).arg(StaffGeometry::nameOfIndex(halfLine))));
+            if (geometry.isAboveLimit(geometry.noteTop(halfLine)))
+                QFAIL(qPrintable(QStringLiteral("%1 at height %2 is refused").arg(row.first).arg(height)));
+        }
+    }
+}
+
+void TestStaffGeometry::referenceHeightKeepsTheTunedRows_data()
+{
+    tableRowsNameTheirNoteAtEveryHeight_data();
+}
+
+void TestStaffGeometry::referenceHeightKeepsTheTunedRows()
+{
+    QFETCH(QString, instrument);
+    const StaffGeometry geometry = geometryOf(instrument, StaffGeometry::referenceHeight);
+    const QMap<QString, int> positions = geometry.namePositions(instrument);
+    for (const auto& row : StaffGeometry::referenceRows(instrument))
+        QCOMPARE(positions.value(row.first), row.second);
+}
+
+void TestStaffGeometry::snapMovesOnlyAsFarAsNeeded_data()
+{
+    QTest::addColumn<QString>("instrument");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("row");
+
+    // At 330 the guitar's C3 scales to 263, which lies in D3's half-line
+    // (up to 263.25); the first row of C3's own half-line is 264.
+    QTest::newRow("guitar C3 at 330 moves down one pixel") << "guitar" << 330 << "C3" << 264;
+    // Where scaling stays inside, the scaled row stands: trunc(175*330/324).
+    QTest::newRow("guitar E4 at 330 stays scaled") << "guitar" << 330 << "E4" << 178;
+    QTest::newRow("guitar E4 at 648 doubles") << "guitar" << 648 << "E4" << 350;
+}
+
+void TestStaffGeometry::snapMovesOnlyAsFarAsNeeded()
+{
+    QFETCH(QString, instrument);
+    QFETCH(int, height);
+    QFETCH(QString, name);
+    QFETCH(int, row);
+    const StaffGeometry geometry = geometryOf(instrument, height);
+    QCOMPARE(geometry.namePositions(instrument).value(name), row);
+}
+
+void TestStaffGeometry::unknownInstrumentHasNoRows()
+{
+    QVERIFY(StaffGeometry::referenceRows(QStringLiteral("theremin")).isEmpty());
+    QVERIFY(!StaffGeometry::referenceRows(QStringLiteral("Guitar")).isEmpty());
+    QVERIFY(geometryOf("guitar", 324).namePositions(QStringLiteral("theremin")).isEmpty());
+}
+
+void TestStaffGeometry::boxes_data()
+{
+    QTest::addColumn<int>("halfLine");
+    QTest::addColumn<QRect>("note");
+    QTest::addColumn<QPoint>("sign");
+
+    // Guitar staff 324 high in a widget 400 wide: line height 19.145,
+    // note width 15.95; the head is centred whatever the pointer's x.
+    QTest::newRow("E4 on its line") << 28 << QRect(184, 162, 35, 19) << QPoint(160, 181);
+    QTest::newRow("E2 below the bass staff") << 42 << QRect(184, 296, 35, 19) << QPoint(160, 315);
+}
+
+void TestStaffGeometry::boxes()
+{
+    QFETCH(int, halfLine);
+    QFETCH(QRect, note);
+    QFETCH(QPoint, sign);
+    const StaffGeometry geometry = geometryOf("guitar", 324);
+    const float top = geometry.noteTop(halfLine);
+    QCOMPARE(geometry.noteRect(400, top), note);
+    QCOMPARE(geometry.signBasePoint(400, top), sign);
+    // The head's box is centred on its half-line's row.
+    const float centre = top + geometry.lineHeight() / 2.0f;
+    QVERIFY(qAbs(centre - (halfLine * geometry.lineHeight() / 2.0f - geometry.translation())) < 0.01f);
+}
+
+QTEST_GUILESS_MAIN(TestStaffGeometry)
+#include "tst_staffgeometry.moc"
