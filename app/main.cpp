@@ -1,9 +1,9 @@
 #include "App.h"
 #include "App_mac.h"
 #include "AppStyleSheet.h"
+#include "CorvaneProducts.h"
 #include "CorvaneSite.h"
 #include "GuitarTonariumMainPage.h"
-#include "PromoMenuBar.h"
 
 #include <QWidget>
 
@@ -24,44 +24,7 @@ int main(int argc, char* argv[])
 
     QMMusic::GuitarTonariumMainPage page;
 
-    // The maker's other products in the "More" menu: four pages, three
-    // pages, two store entries.
-    struct Product
-    {
-        const char* icon;
-        const char* name;
-        const char* target;
-        const char* storeId;
-    };
-    const Product products[] = {
-        { "chordtonarium", "Chord Tonarium", "chordtonarium", nullptr },
-        { "basstonarium", "Bass Tonarium", "basstonarium", nullptr },
-        { "ukuleletonarium", "Ukulele Tonarium", "ukuleletonarium", nullptr },
-        { "pianotonarium", "Piano Tonarium", "pianotonarium", nullptr },
-        { nullptr, nullptr, nullptr, nullptr },
-        { "tunertonarium", "Tuner Tonarium", "tunertonarium", nullptr },
-        { "metronometonarium", "Metronome Tonarium", "metronometonarium", nullptr },
-        { "chordtransposer", "Chord Transposer", "chordtransposer", nullptr },
-        { nullptr, nullptr, nullptr, nullptr },
-        { "soundrecorder", "Sound Recorder", "SoundRecorder", "id918273650" },
-        { "timecodereader", "Timecode Reader", "TimecodeReader", "id918273655" },
-    };
-    QMWidgets::PromoMenuBar* bar = page.promoMenuBar();
-    for (const Product& product : products) {
-        if (!product.icon) {
-            bar->addMenuSeparator();
-            continue;
-        }
-        const QPixmap icon(QStringLiteral(":/promo/%1.png").arg(QLatin1String(product.icon)));
-        if (product.storeId) {
-            bar->addMenuAppLink(icon, QLatin1String(product.name), QLatin1String(product.target),
-                                QLatin1String(product.storeId));
-        } else {
-            bar->addMenuLink(icon, QLatin1String(product.name),
-                             QLatin1String(QMWidgets::CorvaneSite::webHost) + QStringLiteral("/apps/")
-                                 + QLatin1String(product.target) + QLatin1Char('/'));
-        }
-    }
+    QMWidgets::CorvaneProducts::addTo(page.promoMenuBar());
     page.addShopMenu();
 
     page.setMinimumHeight(600);

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QImage>
+#include <QList>
+#include <QRectF>
+#include <QVector>
+
+// The program's own widgets, set up and rendered for each introduction
+// slide: the page finding a note, the staff, training, the report, the menus.
+class SlideScenes
+{
+public:
+    struct Scene
+    {
+        QImage content;
+        QList<QRectF> rings;
+    };
+
+    static QVector<Scene> render();
+};
