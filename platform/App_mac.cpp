@@ -1,6 +1,8 @@
 #include "App_mac.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
 #include <QLocalServer>
 #include <QLocalSocket>
 
@@ -45,7 +47,11 @@ App_mac::~App_mac()
 
 QString App_mac::defaultServerName()
 {
-    return QCoreApplication::applicationName() + QStringLiteral("-") + QString::number(::getuid());
+    // The home folder joins the key: copies with different homes keep
+    // different settings and so are different instances.
+    const QByteArray home = QCryptographicHash::hash(QDir::homePath().toUtf8(), QCryptographicHash::Sha1).toHex();
+    return QCoreApplication::applicationName() + QLatin1Char('-') + QString::number(::getuid()) + QLatin1Char('-')
+        + QString::fromLatin1(home.left(12));
 }
 
 bool App_mac::isRunningElsewhere() const

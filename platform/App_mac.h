@@ -19,7 +19,8 @@ public:
     explicit App_mac(const QString& serverName, QObject* parent = nullptr);
     ~App_mac() override;
 
-    // Application name and user id: one running copy per user.
+    // Application name, user id and home folder: one running copy per user
+    // and settings store.
     static QString defaultServerName();
 
     // True when another copy was running and has been told to come forward.

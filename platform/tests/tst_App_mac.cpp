@@ -5,6 +5,8 @@
 #include <QTest>
 #include <QUuid>
 
+#include <unistd.h>
+
 // A second launch reaches the running copy, which emits dockClicked().
 class tst_App_mac : public QObject
 {
@@ -14,6 +16,7 @@ private slots:
     void secondLaunchesReachTheRunningCopy_data();
     void secondLaunchesReachTheRunningCopy();
     void firstLaunchAfterTheRunningCopyEnded();
+    void serverNameIsPerApplicationAndUser_data();
     void serverNameIsPerApplicationAndUser();
     void instanceIsMadeOnce();
 
@@ -58,15 +61,33 @@ void tst_App_mac::firstLaunchAfterTheRunningCopyEnded()
     QTRY_COMPARE(clicks.count(), 1);
 }
 
+void tst_App_mac::serverNameIsPerApplicationAndUser_data()
+{
+    QTest::addColumn<QString>("secondApplication");
+    QTest::addColumn<QString>("secondHome");
+    QTest::addColumn<bool>("same");
+    QTest::newRow("same application, same home") << "FirstTool" << "/home/a" << true;
+    QTest::newRow("other application") << "SecondTool" << "/home/a" << false;
+    QTest::newRow("other home") << "FirstTool" << "/home/b" << false;
+}
+
 void tst_App_mac::serverNameIsPerApplicationAndUser()
 {
+    QFETCH(QString, secondApplication);
+    QFETCH(QString, secondHome);
+    QFETCH(bool, same);
+    const QByteArray home = qgetenv("HOME");
+
     QCoreApplication::setApplicationName(QStringLiteral("FirstTool"));
+    qputenv("HOME", "/home/a");
     const QString first = App_mac::defaultServerName();
-    QCoreApplication::setApplicationName(QStringLiteral("SecondTool"));
+    QCoreApplication::setApplicationName(secondApplication);
+    qputenv("HOME", secondHome.toUtf8());
     const QString second = App_mac::defaultServerName();
-    QVERIFY(first != second);
-    QVERIFY(first.startsWith(QStringLiteral("FirstTool")));
-    QVERIFY(first.length() > QStringLiteral("FirstTool").length());
+    qputenv("HOME", home);
+
+    QCOMPARE(first == second, same);
+    QVERIFY(first.startsWith(QStringLiteral("FirstTool-") + QString::number(::getuid())));
 }
 
 void tst_App_mac::instanceIsMadeOnce()
