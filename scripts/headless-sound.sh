@@ -8,6 +8,7 @@
 # has come down. The server is stopped by its PID at the end.
 
 headless_sound_pid=""
+headless_sound_dir=""
 
 headless_sound_null_latency_usec() {
     pactl list sinks 2>/dev/null | awk '
@@ -23,6 +24,7 @@ headless_sound_start() {
     fi
     if [ -z "${XDG_RUNTIME_DIR:-}" ] || [ ! -w "${XDG_RUNTIME_DIR}" ]; then
         XDG_RUNTIME_DIR=$(mktemp -d /tmp/headless-sound.XXXXXX)
+        headless_sound_dir=$XDG_RUNTIME_DIR
     fi
     chmod 700 "$XDG_RUNTIME_DIR"
     export XDG_RUNTIME_DIR
@@ -44,7 +46,7 @@ headless_sound_start() {
 
     local latency
     for i in $(seq 1 100); do
-        latency=$(headless_sound_null_latency_usec)
+        latency=$(headless_sound_null_latency_usec || true)
         if [ -n "$latency" ] && [ "$latency" -lt 100000 ]; then
             break
         fi
@@ -55,6 +57,15 @@ headless_sound_start() {
 headless_sound_stop() {
     if [ -n "$headless_sound_pid" ]; then
         kill "$headless_sound_pid" 2>/dev/null || true
+        local i
+        for i in $(seq 1 50); do
+            kill -0 "$headless_sound_pid" 2>/dev/null || break
+            sleep 0.1
+        done
         headless_sound_pid=""
+    fi
+    if [ -n "$headless_sound_dir" ]; then
+        rm -rf "$headless_sound_dir"
+        headless_sound_dir=""
     fi
 }
