@@ -157,6 +157,40 @@ private slots:
         QVERIFY(dialog.viewArea()->isSlideShowRunning());
     }
 
+    void startUpHelpFollowsTheSetting_data()
+    {
+        QTest::addColumn<bool>("neverShow");
+        QTest::addColumn<bool>("expectOpened");
+        QTest::newRow("not declined: offered after half a second") << false << true;
+        QTest::newRow("declined: not offered") << true << false;
+    }
+
+    void startUpHelpFollowsTheSetting()
+    {
+        QFETCH(bool, neverShow);
+        QFETCH(bool, expectOpened);
+        App::theApp()->setSettingsValue(QStringLiteral("NeverShowItAgain"), neverShow);
+
+        // Closes the introduction as soon as it runs modal, noting that it came.
+        bool opened = false;
+        QTimer watcher;
+        watcher.setInterval(10);
+        connect(&watcher, &QTimer::timeout, this, [&opened]() {
+            if (auto* dialog = qobject_cast<HelpDialog*>(QApplication::activeModalWidget())) {
+                opened = true;
+                dialog->reject();
+            }
+        });
+        watcher.start();
+
+        App::theApp()->showHelpOnStart();
+        // Started after the start-up timer with a longer delay, so it fires later.
+        bool due = false;
+        QTimer::singleShot(600, this, [&due]() { due = true; });
+        QTRY_VERIFY_WITH_TIMEOUT(due, 5000);
+        QCOMPARE(opened, expectOpened);
+    }
+
     void closeRejectsAndStopsTheShow()
     {
         HelpDialog dialog;
