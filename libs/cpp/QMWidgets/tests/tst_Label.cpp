@@ -14,6 +14,8 @@ private slots:
     void pictureRect();
     void paintsCentredInFitMode_data();
     void paintsCentredInFitMode();
+    void paintsSharpAtScreenDensity_data();
+    void paintsSharpAtScreenDensity();
 };
 
 void TestLabel::pictureRect_data()
@@ -80,13 +82,17 @@ void TestLabel::paintsCentredInFitMode()
     widget.resize(label);
     widget.setRetinaPixmap(red);
 
+    // Under a scale factor (a second run of this test) the grab has more
+    // pixels than the label has units.
     const QImage image = widget.grab().toImage();
-    QCOMPARE(image.size(), label);
-    for (int y = 0; y < label.height(); y += 3) {
-        for (int x = 0; x < label.width(); x += 3) {
+    const qreal ratio = image.devicePixelRatio();
+    QCOMPARE(image.size(), label * ratio);
+    const QRect scaled = QRectF(QPointF(covered.topLeft()) * ratio, QSizeF(covered.size()) * ratio).toRect();
+    for (int y = 0; y < image.height(); y += 3) {
+        for (int x = 0; x < image.width(); x += 3) {
             // Edge pixels may be blended by smooth scaling.
-            const QRect inner = covered.adjusted(1, 1, -1, -1);
-            const QRect outer = covered.adjusted(-1, -1, 1, 1);
+            const QRect inner = scaled.adjusted(1, 1, -1, -1);
+            const QRect outer = scaled.adjusted(-1, -1, 1, 1);
             const QRgb pixel = image.pixel(x, y);
             if (inner.contains(x, y))
                 QVERIFY2(pixel == qRgb(255, 0, 0), qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
@@ -94,6 +100,37 @@ void TestLabel::paintsCentredInFitMode()
                 QVERIFY2(pixel == qRgb(255, 255, 255), qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
         }
     }
+}
+
+void TestLabel::paintsSharpAtScreenDensity_data()
+{
+    QTest::addColumn<int>("mode");
+
+    QTest::newRow("fit") << int(Label::Fit);
+    QTest::newRow("fill") << int(Label::Fill);
+}
+
+void TestLabel::paintsSharpAtScreenDensity()
+{
+    QFETCH(int, mode);
+
+    // A picture of one-pixel stripes exactly as large as the label's device
+    // pixels must come out stripe for stripe, not scaled down and up again.
+    Label widget;
+    widget.resize(40, 30);
+    const qreal ratio = widget.devicePixelRatioF();
+    QImage stripes(QSize(40, 30) * ratio, QImage::Format_RGB32);
+    for (int x = 0; x < stripes.width(); ++x) {
+        for (int y = 0; y < stripes.height(); ++y)
+            stripes.setPixel(x, y, x % 2 ? qRgb(0, 0, 0) : qRgb(255, 255, 255));
+    }
+    widget.setMode(Label::Mode(mode));
+    widget.setRetinaPixmap(QPixmap::fromImage(stripes));
+
+    const QImage image = widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(image.size(), stripes.size());
+    for (int x = 0; x < image.width(); ++x)
+        QVERIFY2(image.pixel(x, image.height() / 2) == stripes.pixel(x, 0), qPrintable(QString::number(x)));
 }
 
 QTEST_MAIN(TestLabel)
