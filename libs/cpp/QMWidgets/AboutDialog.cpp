@@ -76,7 +76,8 @@ QString AboutDialog::infoText(const QString& applicationName, const QString& ver
     if (kidsMode)
         text += domain + QStringLiteral("<BR>");
     else
-        text += QStringLiteral("<A HREF=\"") + homePage + QStringLiteral("\">") + domain
+        // A light blue of its own: the default link blue vanishes on black.
+        text += QStringLiteral("<A STYLE=\"color:#80C8F0\" HREF=\"") + homePage + QStringLiteral("\">") + domain
             + QStringLiteral("</A><BR>");
     text += QStringLiteral("<IMG SRC=\":/pix/corvanelogo.png\"></CENTER>");
     return text;
