@@ -367,7 +367,7 @@ void tst_App::blenderCoversTheMainWidget()
     // Without a main widget the slot has nothing to cover.
     app()->slotSetBlendMainWidget(true);
 
-    QWidget page;
+    MouseRecorder page;
     page.resize(320, 240);
     app()->setMainWidget(&page);
     QCOMPARE(app()->mainWidget(), &page);
@@ -380,9 +380,14 @@ void tst_App::blenderCoversTheMainWidget()
     app()->slotSetBlendMainWidget(true);
     QVERIFY(blender->isVisible());
     QCOMPARE(blender->size(), page.size());
+    // Presses on the blender never reach the page below.
+    QTest::mouseClick(blender, Qt::LeftButton, Qt::NoModifier, QPoint(40, 30));
+    QCOMPARE(page.pressedAt, QPoint(-100, -100));
 
     app()->slotSetBlendMainWidget(false);
     QVERIFY(!blender->isVisible());
+    QTest::mouseClick(&page, Qt::LeftButton, Qt::NoModifier, QPoint(40, 30));
+    QCOMPARE(page.pressedAt, QPoint(40, 30));
 
     const auto* menuBar = page.findChild<QMenuBar*>();
     QVERIFY(menuBar);
