@@ -22,6 +22,8 @@ private slots:
     void stopRewindsWithoutFinished();
     void pauseHoldsAndPlayResumes();
     void setMediaWhilePlayingFinishesAtTheNextTick();
+    void setPositionMovesThePlayback_data();
+    void setPositionMovesThePlayback();
     void playWithPathKeepsTheFileName();
 
 private:
@@ -205,6 +207,45 @@ void tst_NativeAudioPlayer::setMediaWhilePlayingFinishesAtTheNextTick()
     QCOMPARE(player.duration(), qint64(1000));
     QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 700);
     QCOMPARE(player.duration(), qint64(0));
+}
+
+void tst_NativeAudioPlayer::setPositionMovesThePlayback_data()
+{
+    QTest::addColumn<qint64>("target");
+    QTest::addColumn<bool>("whilePaused");
+
+    QTest::newRow("skip ahead while playing") << qint64(2500) << false;
+    QTest::newRow("skip ahead while paused") << qint64(2500) << true;
+    QTest::newRow("back to the start") << qint64(0) << false;
+    QTest::newRow("past the end acts as the end") << qint64(9000) << false;
+}
+
+void tst_NativeAudioPlayer::setPositionMovesThePlayback()
+{
+    QFETCH(qint64, target);
+    QFETCH(bool, whilePaused);
+    if (!TestSounds::hasAudioOutput())
+        QSKIP("no audio output");
+
+    NativeAudioPlayer player;
+    QSignalSpy finished(&player, &NativeAudioPlayer::finished);
+    player.setMedia(tone(3.0));
+    player.play();
+    QTest::qWait(300);
+    if (whilePaused)
+        player.pause();
+    player.setPosition(target);
+    const qint64 expectedPosition = qMin(target, qint64(3000));
+    QVERIFY(qAbs(player.position() - expectedPosition) <= 20);
+    if (whilePaused)
+        player.play();
+
+    QElapsedTimer clock;
+    clock.start();
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
+    const qint64 rest = 3000 - expectedPosition;
+    QVERIFY2(clock.elapsed() >= rest - 50 && clock.elapsed() <= rest + 600,
+             qPrintable(QStringLiteral("rest %1 ms, finished after %2 ms").arg(rest).arg(clock.elapsed())));
 }
 
 void tst_NativeAudioPlayer::playWithPathKeepsTheFileName()
