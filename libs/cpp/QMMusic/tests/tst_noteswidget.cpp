@@ -400,7 +400,6 @@ void TestNotesWidget::signPressedAfterANoteWaitsForTheNext()
 
     QSignalSpy spy(&widget, &NotesWidget::noteChanged);
     QTest::mouseClick(button(widget, qPrintable(sign)), Qt::LeftButton);
-    QTest::qWait(20);
     hover(widget, 176);
     QCOMPARE(spy.count(), 0);
     QCOMPARE(label->text(), e4Label);
