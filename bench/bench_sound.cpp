@@ -32,13 +32,16 @@ namespace {
 class MonitorProbe
 {
 public:
-    ~MonitorProbe()
+    ~MonitorProbe() { stop(); }
+
+    void stop()
     {
         m_running = false;
         if (m_thread.joinable())
             m_thread.join();
         if (m_stream)
             pa_simple_free(m_stream);
+        m_stream = nullptr;
     }
 
     bool start()
@@ -232,7 +235,9 @@ void bench_sound::chordStart()
 
 void bench_sound::cpuWhileSixNotesSound()
 {
+    // The recorder's own thread would count too: it rests while CPU is measured.
     waitForSilence();
+    m_probe.stop();
     QElapsedTimer wall;
     const double idleStart = cpuSeconds();
     wall.start();
@@ -247,10 +252,10 @@ void bench_sound::cpuWhileSixNotesSound()
         AudioPoolPlayer::instance()->play(sample(stem));
     QTest::qWait(1500);
     const double busy = (cpuSeconds() - busyStart) / (wall.nsecsElapsed() / 1e9);
-    qInfo("CPU while six notes sound: %.1f %% of a core for the notes (decoding and start included);"
-          " the process took %.1f %%, %.1f %% of it the monitor recorder's share when idle",
-          (busy - idle) * 100.0, busy * 100.0, idle * 100.0);
-    QTest::setBenchmarkResult((busy - idle) * 100.0, QTest::Events);
+    QVERIFY(m_probe.start());
+    qInfo("CPU while six notes sound: %.1f %% of a core (decoding and start included), %.1f %% when idle",
+          busy * 100.0, idle * 100.0);
+    QTest::setBenchmarkResult(busy * 100.0, QTest::Events);
 }
 
 void bench_sound::memoryPerPlayer()
