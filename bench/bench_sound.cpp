@@ -46,13 +46,13 @@ public:
 
     bool start()
     {
-        const pa_sample_spec spec { PA_SAMPLE_S16LE, 44100, 1 };
+        const pa_sample_spec format { PA_SAMPLE_S16LE, 44100, 1 };
         pa_buffer_attr attributes {};
         attributes.maxlength = static_cast<uint32_t>(-1);
         attributes.fragsize = BlockFrames * 2;
         int error = 0;
         m_stream = pa_simple_new(nullptr, "bench_sound", PA_STREAM_RECORD, "null.monitor", "probe",
-                                 &spec, nullptr, &attributes, &error);
+                                 &format, nullptr, &attributes, &error);
         if (!m_stream)
             return false;
         m_running = true;
