@@ -13,8 +13,8 @@ using Audio::Util;
 
 typedef std::function<void(const float*, int*, int)> FloatToInt;
 typedef std::function<void(const int*, float*, int)> IntToFloat;
+// n counts samples in both; the wrappers turn it into what each call counts.
 typedef std::function<void(const char*, int*, int)> RawToInt;
-// n is given as the number of samples; the wrapper turns it into what the call counts.
 typedef std::function<void(const int*, char*, int)> IntToRaw;
 
 Q_DECLARE_METATYPE(FloatToInt)
@@ -24,23 +24,25 @@ Q_DECLARE_METATYPE(IntToRaw)
 
 namespace {
 
-// Four-byte cells that both a float* and an int* may look at, for the in-place runs.
-struct Shared
+// Runs a conversion out of place and in place (one array as source and target) and
+// gives both results; the cell after the array must stay untouched.
+template <typename From, typename To, typename Convert>
+void bothWays(const QVector<From>& input, int outCount, Convert convert, QVector<To>* separate,
+              QVector<To>* inPlace)
 {
-    explicit Shared(size_t cells)
-        : words(cells + 1, 0xdeadbeefu)
-    {
-    }
-    template <typename T>
-    T* as()
-    {
-        return reinterpret_cast<T*>(words.data());
-    }
-    std::vector<std::uint32_t> words;
-};
+    const size_t bytes = qMax(sizeof(From) * input.size(), sizeof(To) * outCount);
+    std::vector<std::uint32_t> cells(bytes / 4 + 2, 0xdeadbeefu);
+    *separate = QVector<To>(outCount, To(7));
+    convert(input.constData(), separate->data(), input.size());
+    std::memcpy(cells.data(), input.constData(), sizeof(From) * input.size());
+    convert(reinterpret_cast<From*>(cells.data()), reinterpret_cast<To*>(cells.data()), input.size());
+    const To* out = reinterpret_cast<To*>(cells.data());
+    *inPlace = QVector<To>(out, out + outCount);
+    QCOMPARE(cells.back(), 0xdeadbeefu);
+}
 
-const float oneStep16 = 1.0f / 32768.0f;
-const float oneStep24 = 1.0f / 8388608.0f;
+const float step16 = 1.0f / 32768.0f;
+const float step24 = 1.0f / 8388608.0f;
 
 } // namespace
 
@@ -51,19 +53,12 @@ class tst_Util : public QObject
 private slots:
     void floatToInt_data();
     void floatToInt();
-    void floatToShort16_data();
-    void floatToShort16();
     void intToFloat_data();
     void intToFloat();
-    void rawToInt_data();
-    void rawToInt();
-    void intToRaw_data();
-    void intToRaw();
+    void raw_data();
+    void raw();
     void integerRoundTrip_data();
     void integerRoundTrip();
-    void rawRoundTripInPlace_data();
-    void rawRoundTripInPlace();
-    void longShortRunInPlace();
     void ieeeExtended_data();
     void ieeeExtended();
 };
@@ -74,52 +69,34 @@ void tst_Util::floatToInt_data()
     QTest::addColumn<QVector<float>>("input");
     QTest::addColumn<QVector<int>>("expected");
 
-    const FloatToInt to8 = Util::convertFloatTo8;
-    const FloatToInt to16 = Util::convertFloatTo16;
-    const FloatToInt to24 = Util::convertFloatTo24;
-    const FloatToInt to8U = Util::convertFloatTo8U;
-    const FloatToInt to16U = Util::convertFloatTo16U;
-    const FloatToInt to24U = Util::convertFloatTo24U;
-
-    QTest::newRow("8 clamps") << to8 << QVector<float>{1.0f, -1.0f, 3.0f, -3.0f}
-                              << QVector<int>{127, -127, 127, -127};
-    QTest::newRow("8 sign boundary") << to8 << QVector<float>{0.0f, -0.0f, 0.5f / 128, -0.5f / 128,
-                                                             1.0f / 128, -1.0f / 128}
-                                     << QVector<int>{0, 0, 0, 0, 1, -1};
-    QTest::newRow("8 middle") << to8 << QVector<float>{0.5f, -0.5f, 126.9f / 128}
-                              << QVector<int>{64, -64, 126};
-
-    QTest::newRow("16 clamps") << to16 << QVector<float>{1.0f, -1.0f, 1.5f, -1e9f}
-                               << QVector<int>{32767, -32767, 32767, -32767};
-    QTest::newRow("16 just inside") << to16 << QVector<float>{32767 * oneStep16, -32767 * oneStep16}
-                                    << QVector<int>{32767, -32767};
-    QTest::newRow("16 sign boundary cuts towards zero")
-        << to16 << QVector<float>{0.0f, 0.9f * oneStep16, -0.9f * oneStep16, 1.5f * oneStep16,
-                                  -1.5f * oneStep16}
-        << QVector<int>{0, 0, 0, 1, -1};
-    QTest::newRow("16 halves") << to16 << QVector<float>{0.5f, -0.5f} << QVector<int>{16384, -16384};
-
-    QTest::newRow("24 clamps") << to24 << QVector<float>{1.0f, -1.0f, 2.0f, -2.0f}
-                               << QVector<int>{8388607, -8388607, 8388607, -8388607};
-    QTest::newRow("24 sign boundary") << to24 << QVector<float>{0.0f, 0.5f * oneStep24,
-                                                               -0.5f * oneStep24, oneStep24,
-                                                               -oneStep24}
-                                      << QVector<int>{0, 0, 0, 1, -1};
-    QTest::newRow("24 halves") << to24 << QVector<float>{0.5f, -0.25f}
-                               << QVector<int>{4194304, -2097152};
-
-    QTest::newRow("8U clamps") << to8U << QVector<float>{1.0f, -1.0f, 5.0f, -5.0f}
-                               << QVector<int>{255, 0, 255, 0};
-    QTest::newRow("8U middle") << to8U << QVector<float>{0.0f, -0.5f / 128, 0.5f / 128}
-                               << QVector<int>{128, 127, 128};
-    QTest::newRow("16U clamps") << to16U << QVector<float>{1.0f, -1.0f, 1.01f, -1.01f}
-                                << QVector<int>{65535, 0, 65535, 0};
-    QTest::newRow("16U middle") << to16U << QVector<float>{0.0f, -oneStep16, oneStep16, 0.5f}
-                                << QVector<int>{32768, 32767, 32769, 49152};
-    QTest::newRow("24U clamps") << to24U << QVector<float>{1.0f, -1.0f, 2.0f, -2.0f}
-                                << QVector<int>{16777215, 0, 16777215, 0};
-    QTest::newRow("24U middle") << to24U << QVector<float>{0.0f, -oneStep24, oneStep24}
-                                << QVector<int>{8388608, 8388607, 8388609};
+    // The shorts are widened back from the last to the first, in the same array.
+    const FloatToInt toShort = [](const float* s, int* d, int n) {
+        short* shorts = reinterpret_cast<short*>(d);
+        Util::convertFloatToShort16(s, shorts, n);
+        for (int i = n - 1; i >= 0; --i)
+            d[i] = shorts[i];
+    };
+    QTest::newRow("8 clamps and sign boundary") << FloatToInt(Util::convertFloatTo8)
+        << QVector<float>{1.0f, -3.0f, 0.5f / 128, -0.5f / 128, 1.0f / 128, -1.0f / 128, 0.5f}
+        << QVector<int>{127, -127, 0, 0, 1, -1, 64};
+    QTest::newRow("16 clamps and sign boundary") << FloatToInt(Util::convertFloatTo16)
+        << QVector<float>{1.5f, -1e9f, -1.0f, 0.9f * step16, -0.9f * step16, 1.5f * step16, -1.5f * step16, 0.5f}
+        << QVector<int>{32767, -32767, -32767, 0, 0, 1, -1, 16384};
+    QTest::newRow("short 16 clamps and sign boundary") << toShort
+        << QVector<float>{4.0f, -4.0f, 0.9f * step16, -0.9f * step16, step16, -step16, -0.5f}
+        << QVector<int>{32767, -32767, 0, 0, 1, -1, -16384};
+    QTest::newRow("24 clamps and sign boundary") << FloatToInt(Util::convertFloatTo24)
+        << QVector<float>{2.0f, -1.0f, 0.5f * step24, -0.5f * step24, step24, -step24, -0.25f}
+        << QVector<int>{8388607, -8388607, 0, 0, 1, -1, -2097152};
+    QTest::newRow("8U clamps and middle") << FloatToInt(Util::convertFloatTo8U)
+        << QVector<float>{1.0f, -1.0f, 5.0f, -5.0f, 0.0f, -0.5f / 128}
+        << QVector<int>{255, 0, 255, 0, 128, 127};
+    QTest::newRow("16U clamps and middle") << FloatToInt(Util::convertFloatTo16U)
+        << QVector<float>{1.01f, -1.01f, 0.0f, -step16, step16, 0.5f}
+        << QVector<int>{65535, 0, 32768, 32767, 32769, 49152};
+    QTest::newRow("24U clamps and middle") << FloatToInt(Util::convertFloatTo24U)
+        << QVector<float>{2.0f, -2.0f, 0.0f, -step24, step24}
+        << QVector<int>{16777215, 0, 8388608, 8388607, 8388609};
 }
 
 void tst_Util::floatToInt()
@@ -128,47 +105,10 @@ void tst_Util::floatToInt()
     QFETCH(QVector<float>, input);
     QFETCH(QVector<int>, expected);
 
-    QVector<int> separate(input.size(), 12345);
-    convert(input.constData(), separate.data(), input.size());
+    QVector<int> separate, inPlace;
+    bothWays(input, expected.size(), convert, &separate, &inPlace);
     QCOMPARE(separate, expected);
-
-    Shared shared(input.size());
-    std::memcpy(shared.as<float>(), input.constData(), sizeof(float) * input.size());
-    convert(shared.as<float>(), shared.as<int>(), input.size());
-    QCOMPARE(QVector<int>(shared.as<int>(), shared.as<int>() + input.size()), expected);
-    QCOMPARE(shared.words[input.size()], 0xdeadbeefu);
-}
-
-void tst_Util::floatToShort16_data()
-{
-    QTest::addColumn<QVector<float>>("input");
-    QTest::addColumn<QVector<short>>("expected");
-
-    QTest::newRow("clamps") << QVector<float>{1.0f, -1.0f, 4.0f, -4.0f}
-                            << QVector<short>{32767, -32767, 32767, -32767};
-    QTest::newRow("sign boundary") << QVector<float>{0.0f, 0.9f * oneStep16, -0.9f * oneStep16,
-                                                     oneStep16, -oneStep16}
-                                   << QVector<short>{0, 0, 0, 1, -1};
-    QTest::newRow("long run") << QVector<float>{0.5f, -0.5f, 0.25f, -0.25f, 0.125f, -0.125f, 1.0f,
-                                                -1.0f, 0.0f}
-                              << QVector<short>{16384, -16384, 8192, -8192, 4096, -4096, 32767,
-                                                -32767, 0};
-}
-
-void tst_Util::floatToShort16()
-{
-    QFETCH(QVector<float>, input);
-    QFETCH(QVector<short>, expected);
-
-    QVector<short> separate(input.size(), 777);
-    Util::convertFloatToShort16(input.constData(), separate.data(), input.size());
-    QCOMPARE(separate, expected);
-
-    // The shorts take half the room of the floats: in place, the tail stays as it was.
-    Shared shared(input.size());
-    std::memcpy(shared.as<float>(), input.constData(), sizeof(float) * input.size());
-    Util::convertFloatToShort16(shared.as<float>(), shared.as<short>(), input.size());
-    QCOMPARE(QVector<short>(shared.as<short>(), shared.as<short>() + input.size()), expected);
+    QCOMPARE(inPlace, expected);
 }
 
 void tst_Util::intToFloat_data()
@@ -177,33 +117,19 @@ void tst_Util::intToFloat_data()
     QTest::addColumn<QVector<int>>("input");
     QTest::addColumn<QVector<float>>("expected");
 
-    const IntToFloat from8 = Util::convert8ToFloat;
-    const IntToFloat from16 = Util::convert16ToFloat;
-    const IntToFloat from24 = Util::convert24ToFloat;
-    const IntToFloat from8U = Util::convert8UToFloat;
-    const IntToFloat from16U = Util::convert16UToFloat;
-    const IntToFloat from24U = Util::convert24UToFloat;
-
-    QTest::newRow("8 extremes") << from8 << QVector<int>{127, 0x80, -128, 0}
-                                << QVector<float>{127.0f / 128, -1.0f, -1.0f, 0.0f};
-    QTest::newRow("8 sign boundary") << from8 << QVector<int>{1, 0xff, -1}
-                                     << QVector<float>{1.0f / 128, -1.0f / 128, -1.0f / 128};
-    QTest::newRow("16 extremes") << from16 << QVector<int>{32767, 0x8000, -32768, 0}
-                                 << QVector<float>{32767 * oneStep16, -1.0f, -1.0f, 0.0f};
-    QTest::newRow("16 sign boundary") << from16 << QVector<int>{1, 0xffff, -1}
-                                      << QVector<float>{oneStep16, -oneStep16, -oneStep16};
-    QTest::newRow("16 bits above the sample are ignored") << from16 << QVector<int>{0x14000}
-                                                          << QVector<float>{0.5f};
-    QTest::newRow("24 extremes") << from24 << QVector<int>{8388607, 0x800000, -8388608}
-                                 << QVector<float>{8388607 * oneStep24, -1.0f, -1.0f};
-    QTest::newRow("24 sign boundary") << from24 << QVector<int>{1, 0xffffff, 0}
-                                      << QVector<float>{oneStep24, -oneStep24, 0.0f};
-    QTest::newRow("8U") << from8U << QVector<int>{0, 128, 255, 127}
-                        << QVector<float>{-1.0f, 0.0f, 127.0f / 128, -1.0f / 128};
-    QTest::newRow("16U") << from16U << QVector<int>{0, 32768, 65535, 32767}
-                         << QVector<float>{-1.0f, 0.0f, 32767 * oneStep16, -oneStep16};
-    QTest::newRow("24U") << from24U << QVector<int>{0, 0x800000, 0xffffff, 0x7fffff}
-                         << QVector<float>{-1.0f, 0.0f, 8388607 * oneStep24, -oneStep24};
+    QTest::newRow("8") << IntToFloat(Util::convert8ToFloat) << QVector<int>{127, 0x80, -128, 1, 0xff}
+        << QVector<float>{127.0f / 128, -1.0f, -1.0f, 1.0f / 128, -1.0f / 128};
+    QTest::newRow("16, bits above the sample ignored") << IntToFloat(Util::convert16ToFloat)
+        << QVector<int>{32767, 0x8000, 1, 0xffff, 0x14000}
+        << QVector<float>{32767 * step16, -1.0f, step16, -step16, 0.5f};
+    QTest::newRow("24") << IntToFloat(Util::convert24ToFloat) << QVector<int>{8388607, 0x800000, 1, 0xffffff}
+        << QVector<float>{8388607 * step24, -1.0f, step24, -step24};
+    QTest::newRow("8U") << IntToFloat(Util::convert8UToFloat) << QVector<int>{0, 128, 255, 127}
+        << QVector<float>{-1.0f, 0.0f, 127.0f / 128, -1.0f / 128};
+    QTest::newRow("16U") << IntToFloat(Util::convert16UToFloat) << QVector<int>{0, 32768, 65535, 32767}
+        << QVector<float>{-1.0f, 0.0f, 32767 * step16, -step16};
+    QTest::newRow("24U") << IntToFloat(Util::convert24UToFloat) << QVector<int>{0, 0x800000, 0xffffff, 0x7fffff}
+        << QVector<float>{-1.0f, 0.0f, 8388607 * step24, -step24};
 }
 
 void tst_Util::intToFloat()
@@ -212,92 +138,69 @@ void tst_Util::intToFloat()
     QFETCH(QVector<int>, input);
     QFETCH(QVector<float>, expected);
 
-    QVector<float> separate(input.size(), 9.0f);
-    convert(input.constData(), separate.data(), input.size());
+    QVector<float> separate, inPlace;
+    bothWays(input, expected.size(), convert, &separate, &inPlace);
     QCOMPARE(separate, expected);
-
-    Shared shared(input.size());
-    std::memcpy(shared.as<int>(), input.constData(), sizeof(int) * input.size());
-    convert(shared.as<int>(), shared.as<float>(), input.size());
-    QCOMPARE(QVector<float>(shared.as<float>(), shared.as<float>() + input.size()), expected);
+    QCOMPARE(inPlace, expected);
 }
 
-void tst_Util::rawToInt_data()
+void tst_Util::raw_data()
 {
-    QTest::addColumn<RawToInt>("convert");
+    QTest::addColumn<IntToRaw>("toRaw");
+    QTest::addColumn<RawToInt>("fromRaw");
+    QTest::addColumn<QVector<int>>("samples");
     QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QVector<int>>("expected");
 
-    const RawToInt from8U = Util::convertRawTo8U;
-    const RawToInt from16Little = [](const char* s, int* d, int n) { Util::convertRawTo16U(s, d, n, true); };
-    const RawToInt from16Big = [](const char* s, int* d, int n) { Util::convertRawTo16U(s, d, n, false); };
-    const RawToInt from24 = [](const char* s, int* d, int n) { Util::convertRawTo24U(s, d, n, false); };
-    const RawToInt from24Swapped = [](const char* s, int* d, int n) { Util::convertRawTo24U(s, d, n, true); };
-
-    QTest::newRow("8U") << from8U << QByteArray("\x00\x7f\x80\xff\x01", 5)
-                        << QVector<int>{0, 127, 128, 255, 1};
-    QTest::newRow("16U little endian") << from16Little << QByteArray("\x34\x12\xff\x80\x00\x00", 6)
-                                       << QVector<int>{0x1234, 0x80ff, 0};
-    QTest::newRow("16U big endian") << from16Big << QByteArray("\x12\x34\x80\xff\xff\xff", 6)
-                                    << QVector<int>{0x1234, 0x80ff, 0xffff};
-    QTest::newRow("24U low byte first") << from24 << QByteArray("\x56\x34\x12\xff\xff\x80\x01\x00\x00", 9)
-                                        << QVector<int>{0x123456, 0x80ffff, 1};
-    QTest::newRow("24U swapped") << from24Swapped << QByteArray("\x12\x34\x56\x80\xff\xff\x00\x00\x01", 9)
-                                 << QVector<int>{0x123456, 0x80ffff, 1};
+    QTest::newRow("8U") << IntToRaw(Util::convert8UToRaw) << RawToInt(Util::convertRawTo8U)
+        << QVector<int>{0, 127, 128, 255, 1} << QByteArray("\x00\x7f\x80\xff\x01", 5);
+    QTest::newRow("16U little endian")
+        << IntToRaw([](const int* s, char* d, int n) { Util::convert16UToRaw(s, d, 2 * n, true); })
+        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo16U(s, d, n, true); })
+        << QVector<int>{0x1234, 0x80ff, 0} << QByteArray("\x34\x12\xff\x80\x00\x00", 6);
+    QTest::newRow("16U big endian")
+        << IntToRaw([](const int* s, char* d, int n) { Util::convert16UToRaw(s, d, 2 * n, false); })
+        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo16U(s, d, n, false); })
+        << QVector<int>{0x1234, 0x80ff, 0xffff} << QByteArray("\x12\x34\x80\xff\xff\xff", 6);
+    QTest::newRow("24U low byte first")
+        << IntToRaw([](const int* s, char* d, int n) { Util::convert24UToRaw(s, d, 3 * n); })
+        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo24U(s, d, n, false); })
+        << QVector<int>{0x123456, 0x80ffff, 1} << QByteArray("\x56\x34\x12\xff\xff\x80\x01\x00\x00", 9);
+    QTest::newRow("24U swapped reads high byte first") << IntToRaw()
+        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo24U(s, d, n, true); })
+        << QVector<int>{0x123456, 0x80ffff, 1} << QByteArray("\x12\x34\x56\x80\xff\xff\x00\x00\x01", 9);
 }
 
-void tst_Util::rawToInt()
+// Packs and unpacks the table's samples both ways, then thousands of samples in one array.
+void tst_Util::raw()
 {
-    QFETCH(RawToInt, convert);
+    QFETCH(IntToRaw, toRaw);
+    QFETCH(RawToInt, fromRaw);
+    QFETCH(QVector<int>, samples);
     QFETCH(QByteArray, bytes);
-    QFETCH(QVector<int>, expected);
 
-    QVector<int> separate(expected.size(), -5);
-    convert(bytes.constData(), separate.data(), expected.size());
-    QCOMPARE(separate, expected);
+    const QVector<char> chars(bytes.begin(), bytes.end());
+    QVector<int> separate, inPlace;
+    bothWays(chars, samples.size(), [&](const char* s, int* d, int) { fromRaw(s, d, samples.size()); },
+             &separate, &inPlace);
+    QCOMPARE(separate, samples);
+    QCOMPARE(inPlace, samples);
+    if (!toRaw)
+        return;
+    QVector<char> packed, packedInPlace;
+    bothWays(samples, bytes.size(), toRaw, &packed, &packedInPlace);
+    QCOMPARE(packed, chars);
+    QCOMPARE(packedInPlace, chars);
 
-    Shared shared(expected.size());
-    std::memcpy(shared.as<char>(), bytes.constData(), bytes.size());
-    convert(shared.as<char>(), shared.as<int>(), expected.size());
-    QCOMPARE(QVector<int>(shared.as<int>(), shared.as<int>() + expected.size()), expected);
-}
-
-void tst_Util::intToRaw_data()
-{
-    QTest::addColumn<IntToRaw>("convert");
-    QTest::addColumn<QVector<int>>("input");
-    QTest::addColumn<QByteArray>("expected");
-
-    const IntToRaw to8U = Util::convert8UToRaw;
-    // convert16UToRaw and convert24UToRaw count bytes.
-    const IntToRaw to16Little = [](const int* s, char* d, int n) { Util::convert16UToRaw(s, d, 2 * n, true); };
-    const IntToRaw to16Big = [](const int* s, char* d, int n) { Util::convert16UToRaw(s, d, 2 * n, false); };
-    const IntToRaw to24 = [](const int* s, char* d, int n) { Util::convert24UToRaw(s, d, 3 * n); };
-
-    QTest::newRow("8U") << to8U << QVector<int>{0, 127, 128, 255, 1}
-                        << QByteArray("\x00\x7f\x80\xff\x01", 5);
-    QTest::newRow("16U little endian") << to16Little << QVector<int>{0x1234, 0x80ff, 0}
-                                       << QByteArray("\x34\x12\xff\x80\x00\x00", 6);
-    QTest::newRow("16U big endian") << to16Big << QVector<int>{0x1234, 0x80ff, 0xffff}
-                                    << QByteArray("\x12\x34\x80\xff\xff\xff", 6);
-    QTest::newRow("24U low byte first") << to24 << QVector<int>{0x123456, 0x80ffff, 1, 0xabcdef}
-                                        << QByteArray("\x56\x34\x12\xff\xff\x80\x01\x00\x00\xef\xcd\xab", 12);
-}
-
-void tst_Util::intToRaw()
-{
-    QFETCH(IntToRaw, convert);
-    QFETCH(QVector<int>, input);
-    QFETCH(QByteArray, expected);
-
-    QByteArray separate(expected.size(), '?');
-    convert(input.constData(), separate.data(), input.size());
-    QCOMPARE(separate, expected);
-
-    Shared shared(input.size());
-    std::memcpy(shared.as<int>(), input.constData(), sizeof(int) * input.size());
-    convert(shared.as<int>(), shared.as<char>(), input.size());
-    QCOMPARE(QByteArray(shared.as<char>(), expected.size()), expected);
+    const int n = 5003;
+    const unsigned int mask = (1u << (8 * (bytes.size() / samples.size()))) - 1;
+    QVector<int> many(n);
+    for (int i = 0; i < n; ++i)
+        many[i] = static_cast<int>((static_cast<unsigned int>(i) * 2654435761u) & mask);
+    QVector<int> back = many;
+    int* cells = back.data();
+    toRaw(cells, reinterpret_cast<char*>(cells), n);
+    fromRaw(reinterpret_cast<char*>(cells), cells, n);
+    QCOMPARE(back, many);
 }
 
 void tst_Util::integerRoundTrip_data()
@@ -310,8 +213,8 @@ void tst_Util::integerRoundTrip_data()
     QTest::newRow("24 bit, every 7th value") << 24 << 7;
 }
 
-// Every signed sample survives int -> float -> int, except the most negative one,
-// which comes back one step up because of the symmetric clamp.
+// Every signed sample survives int -> float -> int in one array, except the most
+// negative, which comes back one step up because of the symmetric clamp.
 void tst_Util::integerRoundTrip()
 {
     QFETCH(int, bits);
@@ -322,87 +225,16 @@ void tst_Util::integerRoundTrip()
     for (int v = -top - 1; v <= top; v += stride)
         samples.append(v);
     samples.append(top);
-
-    typedef void (*ToFloat)(const int*, float*, int);
-    typedef void (*ToInt)(const float*, int*, int);
-    const ToFloat toFloat = bits == 8 ? Util::convert8ToFloat
-        : bits == 16 ? Util::convert16ToFloat : Util::convert24ToFloat;
-    const ToInt toInt = bits == 8 ? Util::convertFloatTo8
-        : bits == 16 ? Util::convertFloatTo16 : Util::convertFloatTo24;
-
-    QVector<float> floats(samples.size());
-    QVector<int> back(samples.size());
-    toFloat(samples.constData(), floats.data(), samples.size());
-    toInt(floats.constData(), back.data(), samples.size());
-
-    // The same trip in one array, long enough for any vectorised loop.
-    Shared shared(samples.size());
-    std::memcpy(shared.as<int>(), samples.constData(), sizeof(int) * samples.size());
-    toFloat(shared.as<int>(), shared.as<float>(), samples.size());
-    QCOMPARE(QVector<float>(shared.as<float>(), shared.as<float>() + samples.size()), floats);
-    toInt(shared.as<float>(), shared.as<int>(), samples.size());
-    QCOMPARE(QVector<int>(shared.as<int>(), shared.as<int>() + samples.size()), back);
-
-    for (int i = 0; i < samples.size(); ++i) {
-        const int expected = samples[i] == -top - 1 ? -top : samples[i];
-        if (back[i] != expected)
-            QFAIL(qPrintable(QStringLiteral("%1 came back as %2").arg(samples[i]).arg(back[i])));
-    }
-}
-
-void tst_Util::rawRoundTripInPlace_data()
-{
-    QTest::addColumn<int>("bytesPerSample");
-    QTest::addColumn<IntToRaw>("toRaw");
-    QTest::addColumn<RawToInt>("fromRaw");
-
-    QTest::newRow("8U") << 1 << IntToRaw(Util::convert8UToRaw) << RawToInt(Util::convertRawTo8U);
-    QTest::newRow("16U little endian") << 2
-        << IntToRaw([](const int* s, char* d, int n) { Util::convert16UToRaw(s, d, 2 * n, true); })
-        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo16U(s, d, n, true); });
-    QTest::newRow("16U big endian") << 2
-        << IntToRaw([](const int* s, char* d, int n) { Util::convert16UToRaw(s, d, 2 * n, false); })
-        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo16U(s, d, n, false); });
-    QTest::newRow("24U") << 3
-        << IntToRaw([](const int* s, char* d, int n) { Util::convert24UToRaw(s, d, 3 * n); })
-        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo24U(s, d, n, false); });
-}
-
-// Thousands of samples packed to bytes and unpacked again, both in one array.
-void tst_Util::rawRoundTripInPlace()
-{
-    QFETCH(int, bytesPerSample);
-    QFETCH(IntToRaw, toRaw);
-    QFETCH(RawToInt, fromRaw);
-
-    const int n = 5003;
-    const unsigned int mask = (1u << (8 * bytesPerSample)) - 1;
-    QVector<int> samples(n);
-    for (int i = 0; i < n; ++i)
-        samples[i] = static_cast<int>((static_cast<unsigned int>(i) * 2654435761u) & mask);
-
-    Shared shared(n);
-    std::memcpy(shared.as<int>(), samples.constData(), sizeof(int) * n);
-    toRaw(shared.as<int>(), shared.as<char>(), n);
-    fromRaw(shared.as<char>(), shared.as<int>(), n);
-    QCOMPARE(QVector<int>(shared.as<int>(), shared.as<int>() + n), samples);
-}
-
-void tst_Util::longShortRunInPlace()
-{
-    const int n = 4099;
-    QVector<float> input(n);
-    for (int i = 0; i < n; ++i)
-        input[i] = -1.2f + 2.4f * static_cast<float>(i) / n;
-    QVector<short> expected(n);
-    Util::convertFloatToShort16(input.constData(), expected.data(), n);
-    QCOMPARE(expected.first(), short(-32767));
-    QCOMPARE(expected.last(), short(32767));
-
-    Shared shared(n);
-    std::memcpy(shared.as<float>(), input.constData(), sizeof(float) * n);
-    Util::convertFloatToShort16(shared.as<float>(), shared.as<short>(), n);
-    QCOMPARE(QVector<short>(shared.as<short>(), shared.as<short>() + n), expected);
+    QVector<int> back = samples;
+    float* floats = reinterpret_cast<float*>(back.data());
+    if (bits == 8)
+        Util::convert8ToFloat(back.constData(), floats, back.size()), Util::convertFloatTo8(floats, back.data(), back.size());
+    else if (bits == 16)
+        Util::convert16ToFloat(back.constData(), floats, back.size()), Util::convertFloatTo16(floats, back.data(), back.size());
+    else
+        Util::convert24ToFloat(back.constData(), floats, back.size()), Util::convertFloatTo24(floats, back.data(), back.size());
+    samples.first() = -top;
+    QCOMPARE(back, samples);
 }
 
 void tst_Util::ieeeExtended_data()
@@ -411,15 +243,11 @@ void tst_Util::ieeeExtended_data()
     QTest::addColumn<double>("expected");
 
     QTest::newRow("44100") << QByteArray("\x40\x0e\xac\x44\x00\x00\x00\x00\x00\x00", 10) << 44100.0;
-    QTest::newRow("48000") << QByteArray("\x40\x0e\xbb\x80\x00\x00\x00\x00\x00\x00", 10) << 48000.0;
     QTest::newRow("8000") << QByteArray("\x40\x0b\xfa\x00\x00\x00\x00\x00\x00\x00", 10) << 8000.0;
-    QTest::newRow("one") << QByteArray("\x3f\xff\x80\x00\x00\x00\x00\x00\x00\x00", 10) << 1.0;
     QTest::newRow("low half counts") << QByteArray("\x3f\xff\x80\x00\x00\x00\x80\x00\x00\x00", 10)
                                      << 1.0 + std::ldexp(1.0, -32);
     QTest::newRow("negative") << QByteArray("\xc0\x0e\xac\x44\x00\x00\x00\x00\x00\x00", 10) << -44100.0;
     QTest::newRow("zero") << QByteArray(10, '\0') << 0.0;
-    QTest::newRow("infinity") << QByteArray("\x7f\xff\x00\x00\x00\x00\x00\x00\x00\x00", 10)
-                              << std::numeric_limits<double>::infinity();
     QTest::newRow("negative infinity") << QByteArray("\xff\xff\x80\x00\x00\x00\x00\x00\x00\x00", 10)
                                        << -std::numeric_limits<double>::infinity();
 }
