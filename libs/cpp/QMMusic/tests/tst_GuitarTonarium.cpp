@@ -3,10 +3,14 @@
 #include "GuitarTonarium.h"
 #include "MMessageBox.h"
 #include "NoteSpelling.h"
+#include "NotesLernBar.h"
+#include "NotesLernStatistic.h"
 #include "NotesTrainerWidget.h"
 #include "NotesWidget.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QLoggingCategory>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -19,6 +23,8 @@ using QMMusic::GuitarTonarium;
 using QMMusic::NotesTrainerWidget;
 using QMMusic::NotesWidget;
 using QMWidgets::MMessageBox;
+
+using Report = QMap<QString, QPair<int, int> >;
 
 namespace {
 
@@ -56,6 +62,8 @@ struct Page {
     GuitarBoard* board = tonarium.guitarBoard();
     NotesWidget* staff = decorated->notesWidget();
     NotesTrainerWidget* trainer = decorated->trainerWidget();
+    QPushButton* findNote = buttonWithText(board, QStringLiteral("Find Note"));
+    QPushButton* training = buttonWithText(board, QStringLiteral("Training"));
 
     bool show()
     {
@@ -65,6 +73,83 @@ struct Page {
     }
 };
 
+// What a message box showed before its first button closed it.
+struct ShownMessage
+{
+    QString title;
+    QString text;
+    QStringList buttons;
+};
+
+// Clicks the button and reads the message box the click opens, if any.
+ShownMessage clickAndReadMessage(GuitarTonarium& page, QPushButton* button)
+{
+    ShownMessage shown;
+    QTimer::singleShot(0, &page, [&] {
+        auto* box = page.findChild<MMessageBox*>();
+        if (!box)
+            return;
+        shown.title = box->windowTitle();
+        for (const QLabel* label : box->findChildren<QLabel*>()) {
+            if (!label->text().isEmpty())
+                shown.text = label->text();
+        }
+        for (QPushButton* boxButton : box->findChildren<QPushButton*>())
+            shown.buttons.append(boxButton->text());
+        box->findChildren<QPushButton*>().value(0)->click();
+    });
+    QTest::mouseClick(button, Qt::LeftButton);
+    return shown;
+}
+
+const QStringList s_chromatic { "C", "C#", "D", "D#", "E", "F", "F#", "G", "G#", "A", "A#", "B" };
+
+// The key that names a note as the guitar board asks it (naturals and sharps only).
+QString rightKeyFor(const QString& note, int accidental)
+{
+    return note.left(1) + (accidental > 0 ? QStringLiteral("#") : QString());
+}
+
+// A semitone above the right key: always a wrong answer.
+QString wrongKeyFor(const QString& note, int accidental)
+{
+    const int right = s_chromatic.indexOf(rightKeyFor(note, accidental));
+    return s_chromatic.at((right + 1) % s_chromatic.size());
+}
+
+// The counts of the bars the "Full Report" dialog shows, top to bottom,
+// and whether it says that it has no data.
+struct ShownReport
+{
+    QList<QPair<int, int> > bars;
+    bool noDataText = false;
+};
+
+ShownReport openReport(QMMusic::NotesLernStatistic* statistic)
+{
+    ShownReport shown;
+    QTimer::singleShot(0, statistic, [&shown] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (!dialog)
+            return;
+        for (const QMMusic::NotesLernBar* bar : dialog->findChildren<QMMusic::NotesLernBar*>())
+            shown.bars << qMakePair(bar->rightCount(), bar->wrongCount());
+        for (QLabel* label : dialog->findChildren<QLabel*>())
+            shown.noDataText |= label->text().contains(QLatin1String("No report data is available"));
+        dialog->close();
+    });
+    QTest::mouseClick(buttonWithText(statistic, QStringLiteral("Full Report")), Qt::LeftButton);
+    return shown;
+}
+
+QStringList labelTexts(const QWidget* widget)
+{
+    QStringList texts;
+    for (QLabel* label : widget->findChildren<QLabel*>())
+        texts << label->text();
+    return texts;
+}
+
 } // namespace
 
 class TestGuitarTonarium : public QObject
@@ -72,6 +157,7 @@ class TestGuitarTonarium : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void startsInFindNote();
     void boardPressReachesStaffThenTrainer_data();
     void boardPressReachesStaffThenTrainer();
@@ -79,7 +165,15 @@ private slots:
     void staffHoverLightsBoard();
     void findNoteIsGuardedDuringRun_data();
     void findNoteIsGuardedDuringRun();
+    void scriptedRun_data();
+    void scriptedRun();
 };
+
+void TestGuitarTonarium::initTestCase()
+{
+    // Each note of a run writes a debug line; keep the test log readable.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+}
 
 void TestGuitarTonarium::startsInFindNote()
 {
@@ -88,10 +182,7 @@ void TestGuitarTonarium::startsInFindNote()
 
     QVERIFY(page.staff->isVisible());
     QVERIFY(!page.trainer->isVisible());
-    QPushButton* findNote = buttonWithText(page.board, QStringLiteral("Find Note"));
-    QVERIFY(findNote);
-    QVERIFY(findNote->isChecked());
-    QCOMPARE(page.decorated->objectName(), QStringLiteral("DecoratedNotesWidgetGuitar"));
+    QVERIFY(page.findNote->isChecked());
     // The side pictures are painted: not one flat colour.
     for (const char* side : { "GuitarLeftLabel", "GuitarRightLabel" }) {
         auto* label = page.tonarium.findChild<QLabel*>(QLatin1String(side));
@@ -219,57 +310,129 @@ void TestGuitarTonarium::findNoteIsGuardedDuringRun()
 
     Page page;
     QVERIFY(page.show());
-    QPushButton* findNote = buttonWithText(page.board, QStringLiteral("Find Note"));
-    QPushButton* training = buttonWithText(page.board, QStringLiteral("Training"));
-    QVERIFY(findNote && training);
-
     if (toTraining) {
-        QTest::mouseClick(training, Qt::LeftButton);
+        QTest::mouseClick(page.training, Qt::LeftButton);
         QVERIFY(page.trainer->isVisible());
         QVERIFY(!page.staff->isVisible());
     }
     if (startRun) {
-        QPushButton* start = buttonWithText(page.trainer, QStringLiteral("Start"));
-        QVERIFY(start);
-        QTest::mouseClick(start, Qt::LeftButton);
-        QVERIFY(page.decorated->isTrainingStarted());
+        QTest::mouseClick(buttonWithText(page.trainer, QStringLiteral("Start")), Qt::LeftButton);
         QVERIFY(page.board->isInTraining());
     }
 
-    QString title;
-    QString text;
-    QStringList buttons;
-    QTimer::singleShot(0, &page.tonarium, [&]() {
-        auto* box = page.tonarium.findChild<MMessageBox*>();
-        if (!box)
-            return;
-        title = box->windowTitle();
-        for (const QLabel* label : box->findChildren<QLabel*>()) {
-            if (!label->text().isEmpty())
-                text = label->text();
-        }
-        for (QPushButton* button : box->findChildren<QPushButton*>())
-            buttons.append(button->text());
-        box->findChildren<QPushButton*>().value(0)->click();
-    });
-    QTest::mouseClick(findNote, Qt::LeftButton);
+    const ShownMessage message = clickAndReadMessage(page.tonarium, page.findNote);
     QCoreApplication::processEvents();
 
     if (refused) {
-        QCOMPARE(title, QStringLiteral("Info"));
-        QCOMPARE(text, QStringLiteral("Please, stop the training to be able to do other actions."));
-        QCOMPARE(buttons, QStringList { QStringLiteral("Ok") });
-        QVERIFY(training->isChecked());
-        QVERIFY(!findNote->isChecked());
+        QCOMPARE(message.title, QStringLiteral("Info"));
+        QCOMPARE(message.text, QStringLiteral("Please, stop the training to be able to do other actions."));
+        QCOMPARE(message.buttons, QStringList { QStringLiteral("Ok") });
+        QVERIFY(page.training->isChecked());
+        QVERIFY(!page.findNote->isChecked());
         QVERIFY(page.trainer->isVisible());
         QVERIFY(!page.staff->isVisible());
         QVERIFY(page.decorated->isTrainingStarted());
     } else {
-        QVERIFY(title.isEmpty());
-        QVERIFY(findNote->isChecked());
+        QVERIFY(message.title.isEmpty());
+        QVERIFY(page.findNote->isChecked());
         QVERIFY(page.staff->isVisible());
         QVERIFY(!page.trainer->isVisible());
     }
+}
+
+void TestGuitarTonarium::scriptedRun_data()
+{
+    QTest::addColumn<QString>("answers");
+
+    QTest::newRow("all wrong") << "WWWW";
+    QTest::newRow("all right") << "RRR";
+    QTest::newRow("mixed run of ten") << "RRWRWWRRRW";
+}
+
+// A whole run through the page as a user makes it: Training, Start, answers
+// on the keys (right or wrong as the script says), a click on the board and
+// on Find Note in the middle of it, Stop, the report, Start again.
+void TestGuitarTonarium::scriptedRun()
+{
+    QFETCH(QString, answers);
+
+    Page page;
+    QVERIFY(page.show());
+    GuitarBoard* board = page.board;
+    NotesTrainerWidget* trainer = page.trainer;
+    QMMusic::NotesLernStatistic* statistic = trainer->statistic();
+
+    QTest::mouseClick(page.training, Qt::LeftButton);
+    QVERIFY(trainer->isVisible());
+    QPushButton* start = buttonWithText(trainer, QStringLiteral("Start"));
+    QVERIFY(start);
+    QSignalSpy boardNotes(board, &GuitarBoard::noteChanged);
+    QTest::mouseClick(start, Qt::LeftButton);
+    QVERIFY(board->isInTraining());
+    QCOMPARE(boardNotes.count(), 1);
+    QVERIFY(!trainer->currentNote().isEmpty());
+
+    Report expected;
+    int rights = 0;
+    int wrongs = 0;
+    for (const QChar answer : answers) {
+        const QString note = trainer->currentNote();
+        const int accidental = trainer->currentAccidental();
+        // The board and the trainer agree on the note asked.
+        QCOMPARE(board->currentNote(), QMMusic::NoteSpelling::stem(note, accidental));
+        const bool right = answer == QLatin1Char('R');
+        const QString key = right ? rightKeyFor(note, accidental) : wrongKeyFor(note, accidental);
+        const int notesBefore = boardNotes.count();
+
+        QTest::mouseClick(trainer->keyButton(key), Qt::LeftButton);
+
+        (right ? rights : wrongs) += 1;
+        expected[key].first += right ? 1 : 0;
+        expected[key].second += right ? 0 : 1;
+        QCOMPARE(boardNotes.count(), notesBefore + 1);
+        QCOMPARE(statistic->rightCount(), rights);
+        QCOMPARE(statistic->wrongCount(), wrongs);
+    }
+    QCOMPARE(statistic->report(), expected);
+    QVERIFY(labelTexts(statistic).contains(QStringLiteral("<FONT COLOR='green'>Right:%1</FONT>").arg(rights)));
+    QVERIFY(labelTexts(statistic).contains(QStringLiteral("<FONT COLOR='red'>Wrong:%1</FONT>").arg(wrongs)));
+
+    // In a run the board takes no clicks: no note, no score.
+    const QString asked = board->currentNote();
+    const QPoint spot = boardPointOf(board, asked == QLatin1String("E2") ? QStringLiteral("A2") : QStringLiteral("E2"));
+    QVERIFY(spot.x() >= 0);
+    const int notesBeforeClick = boardNotes.count();
+    QTest::mouseClick(board, Qt::LeftButton, Qt::NoModifier, spot);
+    QCOMPARE(boardNotes.count(), notesBeforeClick);
+    QCOMPARE(board->currentNote(), asked);
+    QCOMPARE(statistic->rightCount() + statistic->wrongCount(), answers.size());
+
+    // Find Note during the run: the message, and the switch springs back.
+    const ShownMessage message = clickAndReadMessage(page.tonarium, page.findNote);
+    QCOMPARE(message.text, QStringLiteral("Please, stop the training to be able to do other actions."));
+    QVERIFY(page.training->isChecked());
+    QVERIFY(trainer->isTrainingStarted());
+
+    // Stop (the same round button): the board takes clicks again, score and report stay.
+    QTest::mouseClick(start, Qt::LeftButton);
+    QVERIFY(!board->isInTraining());
+    QVERIFY(!trainer->keyButton(QStringLiteral("C"))->isEnabled());
+    QCOMPARE(statistic->rightCount(), rights);
+    QCOMPARE(statistic->wrongCount(), wrongs);
+
+    const ShownReport report = openReport(statistic);
+    QCOMPARE(report.bars, expected.values());
+    QVERIFY(!report.noDataText);
+
+    // Start again: everything from zero, the report empty.
+    QTest::mouseClick(start, Qt::LeftButton);
+    QVERIFY(board->isInTraining());
+    QCOMPARE(statistic->rightCount(), 0);
+    QCOMPARE(statistic->wrongCount(), 0);
+    QVERIFY(labelTexts(statistic).contains(QStringLiteral("<FONT COLOR='green'>Right:0</FONT>")));
+    const ShownReport empty = openReport(statistic);
+    QVERIFY(empty.bars.isEmpty());
+    QVERIFY(empty.noDataText);
 }
 
 QTEST_MAIN(TestGuitarTonarium)
