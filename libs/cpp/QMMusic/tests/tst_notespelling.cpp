@@ -13,8 +13,6 @@ private slots:
     void respelling();
     void positionName_data();
     void positionName();
-    void samplePath_data();
-    void samplePath();
 };
 
 void TestNoteSpelling::respelling_data()
@@ -24,26 +22,17 @@ void TestNoteSpelling::respelling_data()
     QTest::addColumn<QString>("stem");
 
     QTest::newRow("natural E4") << "E4" << 0 << "E4";
-    QTest::newRow("natural C6") << "C6" << 0 << "C6";
     QTest::newRow("A flat") << "A3" << -1 << "Gd3";
-    QTest::newRow("A sharp") << "A3" << 1 << "Ad3";
     QTest::newRow("B flat") << "B2" << -1 << "Ad2";
     QTest::newRow("B sharp crosses to C of the next octave") << "B3" << 1 << "C4";
     QTest::newRow("C flat crosses to B of the octave below") << "C4" << -1 << "B3";
     QTest::newRow("C sharp") << "C5" << 1 << "Cd5";
     QTest::newRow("D flat") << "D3" << -1 << "Cd3";
-    QTest::newRow("D sharp") << "D3" << 1 << "Dd3";
-    QTest::newRow("E flat") << "E5" << -1 << "Dd5";
     QTest::newRow("E sharp is F") << "E4" << 1 << "F4";
     QTest::newRow("F flat is E") << "F4" << -1 << "E4";
-    QTest::newRow("F sharp") << "F2" << 1 << "Fd2";
     QTest::newRow("G flat") << "G2" << -1 << "Fd2";
-    QTest::newRow("G sharp") << "G5" << 1 << "Gd5";
-    QTest::newRow("A flat keeps its octave") << "A2" << -1 << "Gd2";
     QTest::newRow("accidental 5 acts as sharp") << "B3" << 5 << "C4";
     QTest::newRow("accidental -5 acts as flat") << "C4" << -5 << "B3";
-    QTest::newRow("accidental 5 on F") << "F3" << 5 << "Fd3";
-    QTest::newRow("accidental -5 on D") << "D4" << -5 << "Cd4";
 }
 
 void TestNoteSpelling::respelling()
@@ -64,7 +53,6 @@ void TestNoteSpelling::positionName_data()
     QTest::newRow("natural") << "E2" << "E2" << 0 << "E2";
     QTest::newRow("sharp") << "F2#" << "F2" << 1 << "Fd2";
     QTest::newRow("sharp in octave 0") << "A0#" << "A0" << 1 << "Ad0";
-    QTest::newRow("highest guitar sharp") << "C6#" << "C6" << 1 << "Cd6";
     QTest::newRow("empty") << "" << "" << 0 << "";
 }
 
@@ -80,26 +68,6 @@ void TestNoteSpelling::positionName()
     // A position name read back through the note name gives the same stem.
     if (!position.isEmpty())
         QCOMPARE(NoteSpelling::stem(name, accidental), stem);
-}
-
-void TestNoteSpelling::samplePath_data()
-{
-    QTest::addColumn<QString>("instrument");
-    QTest::addColumn<QString>("stem");
-    QTest::addColumn<QString>("fileName");
-
-    QTest::newRow("guitar sharp") << "Guitar" << "Fd2" << "guitar_440_Fd2.mp3";
-    QTest::newRow("guitar natural") << "Guitar" << "E4" << "guitar_440_E4.mp3";
-    QTest::newRow("ukulele") << "Ukulele" << "C4" << "ukulele_440_C4.mp3";
-}
-
-void TestNoteSpelling::samplePath()
-{
-    QFETCH(QString, instrument);
-    QFETCH(QString, stem);
-    QFETCH(QString, fileName);
-    const QString path = NoteSpelling::samplePath(instrument, stem);
-    QVERIFY2(path.endsWith(QLatin1Char('/') + fileName) || path == fileName, qPrintable(path));
 }
 
 QTEST_APPLESS_MAIN(TestNoteSpelling)
