@@ -14,8 +14,6 @@ using Report = QMap<QString, QPair<int, int> >;
 
 namespace {
 
-const QChar s_flat(0x266D);
-
 QPushButton* startButton(const NotesTrainerWidget& trainer)
 {
     return trainer.findChild<QPushButton*>(QStringLiteral("RoundButton"));
@@ -69,16 +67,11 @@ private slots:
     void initTestCase();
     void isRightAnswer_data();
     void isRightAnswer();
-    void keys_data();
-    void keys();
     void idleAtConstruction();
     void startAndStop();
-    void answer_data();
-    void answer();
     void stepsOfOneAnswerInOrder();
     void keysScoreOnPressAlone();
     void keysDoNothingOutsideARun();
-    void newRunClearsTheScore();
     void clockText_data();
     void clockText();
     void clockRunsAndKeepsItsReading();
@@ -103,31 +96,20 @@ void tst_NotesTrainerWidget::isRightAnswer_data()
     QTest::newRow("B sharp on C") << "C" << "B3" << 1 << true;
     QTest::newRow("B sharp not on B") << "B" << "B3" << 1 << false;
     QTest::newRow("C flat on B") << "B" << "C4" << -1 << true;
-    QTest::newRow("C flat not on C") << "C" << "C4" << -1 << false;
     QTest::newRow("E sharp on F") << "F" << "E4" << 1 << true;
-    QTest::newRow("E sharp not on E") << "E" << "E4" << 1 << false;
     QTest::newRow("F flat on E") << "E" << "F4" << -1 << true;
-    QTest::newRow("F flat not on F") << "F" << "F4" << -1 << false;
     QTest::newRow("C sharp on C#") << "C#" << "C3" << 1 << true;
     QTest::newRow("D flat on C#") << "C#" << "D3" << -1 << true;
-    QTest::newRow("D natural not on C#") << "C#" << "D3" << 0 << false;
     QTest::newRow("D sharp on D#") << "D#" << "D2" << 1 << true;
-    QTest::newRow("E flat on D#") << "D#" << "E2" << -1 << true;
-    QTest::newRow("F sharp on F#") << "F#" << "F2" << 1 << true;
     QTest::newRow("G flat on F#") << "F#" << "G2" << -1 << true;
-    QTest::newRow("G sharp on G#") << "G#" << "G5" << 1 << true;
     QTest::newRow("A flat on G#") << "G#" << "A5" << -1 << true;
-    QTest::newRow("A sharp on A#") << "A#" << "A2" << 1 << true;
     QTest::newRow("B flat on A#") << "A#" << "B2" << -1 << true;
     QTest::newRow("D has no other spelling") << "D" << "C4" << 2 << false;
-    QTest::newRow("G natural on G") << "G" << "G3" << 0 << true;
-    QTest::newRow("A natural on A") << "A" << "A4" << 0 << true;
     QTest::newRow("A natural not on A#") << "A#" << "A4" << 0 << false;
     QTest::newRow("wrong letter") << "D" << "E3" << 0 << false;
     QTest::newRow("letter compared case-sensitively") << "C" << "c4" << 0 << false;
     QTest::newRow("no note asked yet") << "C" << "" << 0 << false;
     QTest::newRow("any positive accidental is sharp") << "F#" << "F2" << 2 << true;
-    QTest::newRow("any negative accidental is flat") << "C#" << "D2" << -2 << true;
     QTest::newRow("unknown key") << "H" << "H2" << 0 << false;
 }
 
@@ -141,78 +123,26 @@ void tst_NotesTrainerWidget::isRightAnswer()
     QCOMPARE(NotesTrainerWidget::isRightAnswer(key, note, accidental), right);
 }
 
-void tst_NotesTrainerWidget::keys_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("objectName");
-
-    QTest::newRow("C") << "C" << "C\n(do)" << "Key";
-    QTest::newRow("C#") << "C#" << QString("C#\nD" + QString(s_flat)) << "Keyd";
-    QTest::newRow("D") << "D" << "D\n(re)" << "Key";
-    QTest::newRow("D#") << "D#" << QString("D#\nE" + QString(s_flat)) << "Keyd";
-    QTest::newRow("E") << "E" << "E\n(mi)" << "Key";
-    QTest::newRow("F") << "F" << "F\n(fa)" << "Key";
-    QTest::newRow("F#") << "F#" << QString("F#\nG" + QString(s_flat)) << "Keyd";
-    QTest::newRow("G") << "G" << "G\n(sol)" << "Key";
-    QTest::newRow("G#") << "G#" << QString("G#\nA" + QString(s_flat)) << "Keyd";
-    QTest::newRow("A") << "A" << "A\n(la)" << "Key";
-    QTest::newRow("A#") << "A#" << QString("A#\nB" + QString(s_flat)) << "Keyd";
-    QTest::newRow("B") << "B" << "B\n(si)" << "Key";
-}
-
-void tst_NotesTrainerWidget::keys()
-{
-    QFETCH(QString, key);
-    QFETCH(QString, text);
-    QFETCH(QString, objectName);
-
-    NotesTrainerWidget trainer;
-    QPushButton* button = trainer.keyButton(key);
-    QVERIFY(button);
-    QCOMPARE(button->text(), text);
-    QCOMPARE(button->objectName(), objectName);
-    QCOMPARE(button->size(), QSize(44, 44));
-    QVERIFY(button->isFlat());
-}
-
 void tst_NotesTrainerWidget::idleAtConstruction()
 {
     NotesTrainerWidget trainer;
-    QPushButton* start = startButton(trainer);
-    QVERIFY(start);
-    QCOMPARE(start->text(), QStringLiteral("Start"));
-    QVERIFY(start->isCheckable());
-    QVERIFY(!start->isChecked());
-    QCOMPARE(start->size(), QSize(64, 64));
     QVERIFY(!trainer.isTrainingStarted());
     QCOMPARE(clockLabelText(trainer), QStringLiteral("<FONT COLOR='black'><H3>00:00:00</H3></FONT>"));
-    QCOMPARE(trainer.currentNote(), QString());
-    QCOMPARE(trainer.currentAccidental(), 0);
-    for (int i = 0; i < NotesTrainerWidget::KeyCount; ++i)
-        QVERIFY(!trainer.keyButton(NotesTrainerWidget::reportKey(i))->isEnabled());
-    // The white keys lie in one row below the black ones, in chromatic order.
+    // Laid out like a piano octave: centres left to right in chromatic
+    // order, the black keys in a row above the white ones; all disabled.
     trainer.resize(400, 400);
     trainer.show();
     QVERIFY(QTest::qWaitForWindowExposed(&trainer));
-    int lastX = -1;
-    for (const char* white : { "C", "D", "E", "F", "G", "A", "B" }) {
-        QPushButton* key = trainer.keyButton(QLatin1String(white));
-        QVERIFY(key->x() > lastX);
-        QCOMPARE(key->y(), trainer.keyButton(QStringLiteral("C"))->y());
-        lastX = key->x();
-    }
-    // Each black key sits between its two white neighbours, above them.
-    const QList<QPair<const char*, const char*> > neighbours
-        = { { "C", "D" }, { "D", "E" }, { "F", "G" }, { "G", "A" }, { "A", "B" } };
-    const QStringList blacks { "C#", "D#", "F#", "G#", "A#" };
-    for (int i = 0; i < blacks.size(); ++i) {
-        const QPushButton* black = trainer.keyButton(blacks.at(i));
-        const int left = trainer.keyButton(QLatin1String(neighbours.at(i).first))->geometry().center().x();
-        const int right = trainer.keyButton(QLatin1String(neighbours.at(i).second))->geometry().center().x();
-        QVERIFY2(black->geometry().center().x() > left && black->geometry().center().x() < right,
-            qPrintable(blacks.at(i)));
-        QVERIFY(black->y() < trainer.keyButton(QStringLiteral("C"))->y());
+    const QStringList chromatic { "C", "C#", "D", "D#", "E", "F", "F#", "G", "G#", "A", "A#", "B" };
+    const int whiteRow = trainer.keyButton(QStringLiteral("C"))->y();
+    for (int i = 0; i < chromatic.size(); ++i) {
+        const QPushButton* key = trainer.keyButton(chromatic.at(i));
+        QVERIFY(!key->isEnabled());
+        if (i > 0)
+            QVERIFY2(key->geometry().center().x() > trainer.keyButton(chromatic.at(i - 1))->geometry().center().x(),
+                     qPrintable(chromatic.at(i)));
+        QVERIFY2(chromatic.at(i).endsWith(QLatin1Char('#')) ? key->y() < whiteRow : key->y() == whiteRow,
+                 qPrintable(chromatic.at(i)));
     }
 }
 
@@ -230,53 +160,15 @@ void tst_NotesTrainerWidget::startAndStop()
 
     QTest::mouseClick(startButton(trainer), Qt::LeftButton);
     QVERIFY(trainer.isTrainingStarted());
-    QCOMPARE(startButton(trainer)->text(), QStringLiteral("Stop"));
     QVERIFY(clock->isActive());
-    QCOMPARE(clock->interval(), 500);
     // The first note is asked before the board hears of the run.
     QCOMPARE(events, (QStringList { "needNextNote", "started", "keys enabled" }));
 
     events.clear();
     QTest::mouseClick(startButton(trainer), Qt::LeftButton);
     QVERIFY(!trainer.isTrainingStarted());
-    QCOMPARE(startButton(trainer)->text(), QStringLiteral("Start"));
     QVERIFY(!clock->isActive());
     QCOMPARE(events, (QStringList { "stopped", "keys disabled" }));
-}
-
-void tst_NotesTrainerWidget::answer_data()
-{
-    QTest::addColumn<QString>("note");
-    QTest::addColumn<int>("accidental");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<bool>("right");
-
-    QTest::newRow("right natural") << "E2" << 0 << "E" << true;
-    QTest::newRow("right sharp") << "F3" << 1 << "F#" << true;
-    QTest::newRow("wrong neighbour") << "F3" << 0 << "E" << false;
-    QTest::newRow("B sharp counts right on C") << "B3" << 1 << "C" << true;
-    QTest::newRow("B sharp counts wrong on B") << "B3" << 1 << "B" << false;
-}
-
-// A press in a run scores once and is filed under the key that was pressed,
-// whatever note was asked.
-void tst_NotesTrainerWidget::answer()
-{
-    QFETCH(QString, note);
-    QFETCH(int, accidental);
-    QFETCH(QString, key);
-    QFETCH(bool, right);
-
-    NotesTrainerWidget trainer;
-    ScriptedBoard board(trainer, { { note, accidental }, { QStringLiteral("A2"), 0 } });
-    QTest::mouseClick(startButton(trainer), Qt::LeftButton);
-    QCOMPARE(trainer.currentNote(), note);
-
-    QTest::mouseClick(trainer.keyButton(key), Qt::LeftButton);
-    QCOMPARE(trainer.statistic()->rightCount(), right ? 1 : 0);
-    QCOMPARE(trainer.statistic()->wrongCount(), right ? 0 : 1);
-    QCOMPARE(trainer.statistic()->report(), (Report { { key, right ? qMakePair(1, 0) : qMakePair(0, 1) } }));
-    QCOMPARE(trainer.currentNote(), QStringLiteral("A2"));
 }
 
 void tst_NotesTrainerWidget::stepsOfOneAnswerInOrder()
@@ -334,31 +226,8 @@ void tst_NotesTrainerWidget::keysDoNothingOutsideARun()
     trainer.slotCDClicked();
     trainer.slotBClicked();
     QCOMPARE(asked.count(), 0);
-    QCOMPARE(trainer.statistic()->rightCount(), 0);
-    QCOMPARE(trainer.statistic()->wrongCount(), 0);
+    QCOMPARE(trainer.statistic()->rightCount() + trainer.statistic()->wrongCount(), 0);
     QVERIFY(trainer.statistic()->report().isEmpty());
-}
-
-void tst_NotesTrainerWidget::newRunClearsTheScore()
-{
-    NotesTrainerWidget trainer;
-    ScriptedBoard board(trainer, { { "A2", 0 }, { "B2", 0 }, { "C3", 0 }, { "D3", 0 } });
-    QTest::mouseClick(startButton(trainer), Qt::LeftButton);
-    QTest::mouseClick(trainer.keyButton(QStringLiteral("A")), Qt::LeftButton);
-    QTest::mouseClick(trainer.keyButton(QStringLiteral("A")), Qt::LeftButton);
-    QTest::mouseClick(startButton(trainer), Qt::LeftButton);
-
-    // Stop keeps the score and the report.
-    QCOMPARE(trainer.statistic()->rightCount(), 1);
-    QCOMPARE(trainer.statistic()->wrongCount(), 1);
-    QCOMPARE(trainer.statistic()->report(), (Report { { "A", { 1, 1 } } }));
-
-    QTest::mouseClick(startButton(trainer), Qt::LeftButton);
-    QCOMPARE(trainer.statistic()->rightCount(), 0);
-    QCOMPARE(trainer.statistic()->wrongCount(), 0);
-    QVERIFY(trainer.statistic()->report().isEmpty());
-    // The first note of the new run was drawn at its Start.
-    QCOMPARE(trainer.currentNote(), QStringLiteral("D3"));
 }
 
 void tst_NotesTrainerWidget::clockText_data()
@@ -366,8 +235,6 @@ void tst_NotesTrainerWidget::clockText_data()
     QTest::addColumn<int>("msecs");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("start") << 0 << "<FONT COLOR='black'><H3>00:00:00</H3></FONT>";
-    QTest::newRow("first tick") << 500 << "<FONT COLOR='black'><H3>00:00:00</H3></FONT>";
     QTest::newRow("seconds truncate") << 1999 << "<FONT COLOR='black'><H3>00:00:01</H3></FONT>";
     QTest::newRow("minutes") << 754000 << "<FONT COLOR='black'><H3>00:12:34</H3></FONT>";
     QTest::newRow("hours") << 37230000 << "<FONT COLOR='black'><H3>10:20:30</H3></FONT>";
