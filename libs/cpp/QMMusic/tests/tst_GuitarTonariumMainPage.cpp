@@ -48,11 +48,8 @@ private slots:
     void barOnTopOfTheGuitarPage()
     {
         GuitarTonariumMainPage page;
-        QCOMPARE(page.objectName(), QStringLiteral("GuitarTonariumMainPage"));
         QCOMPARE(page.layout()->itemAt(0)->widget(), page.promoMenuBar());
         QCOMPARE(page.layout()->itemAt(1)->widget(), page.guitarTonarium());
-        QCOMPARE(page.promoMenuBar()->parentWidget(), &page);
-        QVERIFY(!page.shop());
     }
 
     void shopEntriesFollowTheAppsOwn()
@@ -61,7 +58,6 @@ private slots:
         page.promoMenuBar()->addMenuLink(QPixmap(), QStringLiteral("Own product"), QStringLiteral("https://x.org/"));
         page.addShopMenu();
         QVERIFY(qobject_cast<GuitarShop*>(page.shop()));
-        QCOMPARE(page.shop()->parent(), &page);
         QCOMPARE(entries(page.promoMenuBar()->shopMenu()),
                  (QStringList{ "Own product", "-", "Must Have", "Nice to Have", "Read", "Hear", "See", "-",
                                "Wikipedia" }));
