@@ -62,11 +62,6 @@ QString stemAbove(int semitones)
     return QLatin1String(classes[pitch % 12]) + QString::number(pitch / 12);
 }
 
-int luminance(QRgb pixel)
-{
-    return qGray(pixel);
-}
-
 } // namespace
 
 class TestNeckArt : public QObject
@@ -177,12 +172,12 @@ void TestNeckArt::stringsFollowTheBoxes()
         const int x = int(centre.x() * kSx);
         int brightest = 0;
         for (int y = int((centre.y() - 4) * kSy); y <= int((centre.y() + 4) * kSy); ++y)
-            brightest = qMax(brightest, luminance(neck.pixel(x, y)));
+            brightest = qMax(brightest, qGray(neck.pixel(x, y)));
         const double between = string < 6 ? (geometry.stringY(string, centre.x()) + geometry.stringY(string + 1, centre.x())) / 2
                                           : geometry.stringY(string, centre.x()) - geometry.spacing(centre.x()) / 2;
         // Inlays brighten the wood between the strings at these frets.
         const bool inlay = QList<int> { 3, 5, 7, 9, 12, 15, 17, 19, 21 }.contains(column);
-        const int wood = inlay ? 0 : luminance(neck.pixel(x, int(between * kSy)));
+        const int wood = inlay ? 0 : qGray(neck.pixel(x, int(between * kSy)));
         QVERIFY2(brightest > 140 && wood < brightest - 60,
                  qPrintable(QStringLiteral("column %1: string %2, wood %3").arg(column).arg(brightest).arg(wood)));
     }
@@ -202,8 +197,8 @@ void TestNeckArt::fretWiresBetweenColumns()
         const int wireX = int((left.x() + right.x()) / 2.0 * kSx);
         int wire = 0;
         for (int x = wireX - 5; x <= wireX + 5; ++x)
-            wire = qMax(wire, luminance(neck.pixel(x, int(y * kSy))));
-        const int cell = luminance(neck.pixel(int(left.x() * kSx), int(y * kSy)));
+            wire = qMax(wire, qGray(neck.pixel(x, int(y * kSy))));
+        const int cell = qGray(neck.pixel(int(left.x() * kSx), int(y * kSy)));
         QVERIFY2(wire > 150 && cell < 110, qPrintable(QStringLiteral("fret %1: wire %2, cell %3").arg(column).arg(wire).arg(cell)));
     }
 }

@@ -115,10 +115,7 @@ void TestStaffArt::noteHead()
     const QImage image(QStringLiteral(":/note.png"));
     QCOMPARE(image.size(), QSize(512, 320));
     QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
-    QCOMPARE(qAlpha(image.pixel(511, 319)), 0);
-    const QRgb centre = image.pixel(256, 160);
-    QCOMPARE(qAlpha(centre), 255);
-    QVERIFY(qRed(centre) < 20 && qGreen(centre) < 20 && qBlue(centre) < 20);
+    QVERIFY(qAlpha(image.pixel(256, 160)) == 255 && qGray(image.pixel(256, 160)) < 20);
     const QRect ink = inkBounds(image, image.rect());
     // One staff space high: the head fills the height, centred both ways.
     QVERIFY2(ink.top() <= 3 && ink.bottom() >= 316, qPrintable(QStringLiteral("%1 %2").arg(ink.top()).arg(ink.bottom())));
