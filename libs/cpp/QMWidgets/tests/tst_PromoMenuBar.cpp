@@ -60,9 +60,8 @@ private slots:
     {
         QTest::addColumn<bool>("kidsMode");
         QTest::addColumn<QStringList>("expected");
-        QTest::newRow("direct build") << false
-                                      << QStringList { "MoreButton", "Centre", "IntroButton", "ShareButton",
-                                             "JoinButton", "AppButton" };
+        QTest::newRow("direct build")
+            << false << QStringList { "MoreButton", "Centre", "IntroButton", "ShareButton", "JoinButton", "AppButton" };
         QTest::newRow("kids mode keeps intro and centre") << true << QStringList { "Centre", "IntroButton" };
     }
 
