@@ -2,7 +2,6 @@
 
 #include <QtTest>
 
-using MTools::Error;
 using MTools::Handle;
 
 namespace {
@@ -29,7 +28,6 @@ private slots:
 
     void sharing_data();
     void sharing();
-    void nullThrows();
 };
 
 void tst_Handle::sharing_data()
@@ -65,21 +63,6 @@ void tst_Handle::sharing()
     if (left > 0) {
         QCOMPARE(owners.first().count(), left);
         QCOMPARE(owners.first()->value, 7);
-    }
-}
-
-void tst_Handle::nullThrows()
-{
-    Handle<Tracked> reset(new Tracked(1));
-    reset.reset();
-    for (const Handle<Tracked>& empty : { Handle<Tracked>(), Handle<Tracked>(nullptr), reset }) {
-        QString message;
-        try {
-            (void)empty->value;
-        } catch (const Error& error) {
-            message = error.message();
-        }
-        QCOMPARE(message, QStringLiteral("Null handle"));
     }
 }
 
