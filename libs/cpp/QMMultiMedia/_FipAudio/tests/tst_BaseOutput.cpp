@@ -9,10 +9,7 @@ using Audio::AudioFloatBuffer;
 using Audio::BaseOutput;
 using Audio::FileInfo;
 using Audio::RawBuffer;
-using Audio::Settings;
 using MTools::Handle;
-
-Q_DECLARE_METATYPE(Audio::Settings)
 
 namespace {
 
@@ -33,40 +30,16 @@ public:
 
 } // namespace
 
-// The stream description, the file description and the writers' base.
+// The writers' base and the copies of buffers and file descriptions.
 class tst_BaseOutput : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void settingsEquality_data();
-    void settingsEquality();
     void bufferWriteSendsWholeFrames_data();
     void bufferWriteSendsWholeFrames();
     void copiesKeepTheirOwnData();
 };
-
-void tst_BaseOutput::settingsEquality_data()
-{
-    QTest::addColumn<Settings>("other");
-    QTest::addColumn<bool>("equal");
-
-    QTest::newRow("same") << Settings(44100, 2, Settings::LittleEndianSigned16, 16) << true;
-    QTest::newRow("rate differs") << Settings(48000, 2, Settings::LittleEndianSigned16, 16) << false;
-    QTest::newRow("channels differ") << Settings(44100, 1, Settings::LittleEndianSigned16, 16) << false;
-    QTest::newRow("format differs") << Settings(44100, 2, Settings::BigEndianSigned16, 16) << false;
-    QTest::newRow("bits differ") << Settings(44100, 2, Settings::LittleEndianSigned16, 24) << false;
-}
-
-void tst_BaseOutput::settingsEquality()
-{
-    QFETCH(Settings, other);
-    QFETCH(bool, equal);
-
-    const Settings reference(44100, 2, Settings::LittleEndianSigned16, 16);
-    QCOMPARE(reference == other, equal);
-    QCOMPARE(reference != other, !equal);
-}
 
 void tst_BaseOutput::bufferWriteSendsWholeFrames_data()
 {

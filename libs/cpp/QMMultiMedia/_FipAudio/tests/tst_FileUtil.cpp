@@ -13,27 +13,6 @@ class tst_FileUtil : public QObject
 private slots:
     void writeThenRead_data();
     void writeThenRead();
-    void writeToReadOnlyStreamFails();
-
-private:
-    static size_t write(int width, qulonglong value, FILE* file, bool swap)
-    {
-        switch (width) {
-        case 1: return FileUtil::writeB(static_cast<unsigned char>(value), file);
-        case 2: return FileUtil::writeS(static_cast<unsigned short>(value), file, swap);
-        case 4: return FileUtil::writeL(static_cast<unsigned int>(value), file, swap);
-        default: return FileUtil::writeLL(value, file, swap);
-        }
-    }
-    static qulonglong read(int width, FILE* file, bool swap)
-    {
-        switch (width) {
-        case 1: return FileUtil::readB(file);
-        case 2: return FileUtil::readS(file, swap);
-        case 4: return FileUtil::readL(file, swap);
-        default: return FileUtil::readLL(file, swap);
-        }
-    }
 };
 
 void tst_FileUtil::writeThenRead_data()
@@ -62,32 +41,28 @@ void tst_FileUtil::writeThenRead()
     QFETCH(qulonglong, value);
     QFETCH(QByteArray, bytes);
 
+    auto read = [&](FILE* file) -> qulonglong {
+        std::rewind(file);
+        return width == 1 ? FileUtil::readB(file) : width == 2 ? FileUtil::readS(file, swap)
+            : width == 4 ? FileUtil::readL(file, swap) : FileUtil::readLL(file, swap);
+    };
     FILE* file = std::tmpfile();
     QVERIFY(file);
-    QVERIFY(write(width, value, file, swap) > 0);
+    const size_t written = width == 1 ? FileUtil::writeB(static_cast<unsigned char>(value), file)
+        : width == 2 ? FileUtil::writeS(static_cast<unsigned short>(value), file, swap)
+        : width == 4 ? FileUtil::writeL(static_cast<unsigned int>(value), file, swap)
+                     : FileUtil::writeLL(value, file, swap);
+    QVERIFY(written > 0);
     std::rewind(file);
-    QByteArray written(width + 1, '?');
-    written.resize(int(std::fread(written.data(), 1, written.size(), file)));
-    QCOMPARE(written, bytes);
-    std::rewind(file);
-    QCOMPARE(read(width, file, swap), value);
-
+    QByteArray inFile(width + 1, '?');
+    inFile.resize(int(std::fread(inFile.data(), 1, inFile.size(), file)));
+    QCOMPARE(inFile, bytes);
+    QCOMPARE(read(file), value);
     std::fclose(file);
+
     file = std::tmpfile();
     std::fwrite(bytes.constData(), 1, width - 1, file);
-    std::rewind(file);
-    QCOMPARE(read(width, file, swap), 0ULL);
-    std::fclose(file);
-}
-
-void tst_FileUtil::writeToReadOnlyStreamFails()
-{
-    QTemporaryFile backing;
-    QVERIFY(backing.open());
-    FILE* file = std::fopen(QFile::encodeName(backing.fileName()).constData(), "rb");
-    QVERIFY(file);
-    for (int width : { 1, 2, 4, 8 })
-        QCOMPARE(write(width, 1, file, width == 4), size_t(0));
+    QCOMPARE(read(file), 0ULL);
     std::fclose(file);
 }
 
