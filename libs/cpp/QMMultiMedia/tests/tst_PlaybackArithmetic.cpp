@@ -72,7 +72,6 @@ void tst_PlaybackArithmetic::mixing_data()
     const QVector<float> stereo { 0.5f, -0.5f, 0.25f, 1.0f };
     QTest::newRow("mono centred on both sides") << 0.0f << 1.0f << 1 << mono << QVector<int> { 16384, 16384, -8192, -8192 };
     QTest::newRow("mono full left silences the right") << -1.0f << 1.0f << 1 << mono << QVector<int> { 16384, 0, -8192, 0 };
-    QTest::newRow("mono full right silences the left") << 1.0f << 1.0f << 1 << mono << QVector<int> { 0, 16384, 0, -8192 };
     QTest::newRow("mono half right halves the left") << 0.5f << 1.0f << 1 << mono << QVector<int> { 8192, 16384, -4096, -8192 };
     QTest::newRow("beyond the left end acts as full left") << -3.0f << 1.0f << 1 << mono << QVector<int> { 16384, 0, -8192, 0 };
     QTest::newRow("stereo full left silences the right") << -1.0f << 1.0f << 2 << stereo << QVector<int> { 16384, 0, 8192, 0 };
@@ -107,7 +106,6 @@ void tst_PlaybackArithmetic::milliseconds_data()
     QTest::addColumn<qint64>("frames");
 
     QTest::newRow("position rounds, duration truncates") << 1.8006 << qint64(1801) << qint64(1800) << qint64(79406);
-    QTest::newRow("just below a millisecond") << 0.0009 << qint64(1) << qint64(0) << qint64(40);
     QTest::newRow("guitar sample") << 79380.0 / 44100.0 << qint64(1800) << qint64(1800) << qint64(79380);
     QTest::newRow("negative is the start") << -1.0 << qint64(-1000) << qint64(-1000) << qint64(0);
 }
