@@ -66,14 +66,6 @@ private slots:
         QCOMPARE(first == second, same);
         QVERIFY(first.startsWith(QStringLiteral("FirstTool-") + QString::number(::getuid())));
     }
-
-    void instanceIsMadeOnce()
-    {
-        QCoreApplication::setApplicationName(uniqueName());
-        App_mac* instance = App_mac::instance();
-        QCOMPARE(App_mac::instance(), instance);
-        QVERIFY(!instance->isRunningElsewhere());
-    }
 };
 
 QTEST_GUILESS_MAIN(tst_App_mac)

@@ -1,18 +1,14 @@
 #include "App.h"
 #include "BlenderWidget.h"
 
-#include <QDialog>
 #include <QDir>
 #include <QMenuBar>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <functional>
 
 using QMWidgets::App;
 
@@ -56,7 +52,7 @@ void writeFile(const QString& path, const QString& content)
         file.write(content.toUtf8());
 }
 
-using DirectoryFunction = std::function<QString(bool)>;
+using DirectoryFunction = QString (*)(bool);
 using Link = QString (App::*)() const;
 
 } // namespace
@@ -121,7 +117,7 @@ private slots:
         QCOMPARE(app()->settings()->contains(key), oldMode);
     }
 
-    void directoryPaths_data()
+    void directoryPathsAndFirstStart_data()
     {
         QTest::addColumn<DirectoryFunction>("directory");
         QTest::addColumn<QString>("relative");
@@ -139,7 +135,7 @@ private slots:
             << DirectoryFunction(&App::dataDirectory) << "/.local/share/Corvane/TonariumTest";
     }
 
-    void directoryPaths()
+    void directoryPathsAndFirstStart()
     {
         QFETCH(DirectoryFunction, directory);
         QFETCH(QString, relative);
@@ -147,39 +143,19 @@ private slots:
         const QString path = directory(false);
         QCOMPARE(path, home.path() + relative);
         QVERIFY2(!QDir(path).exists(), "asking without create must not create");
+        QVERIFY(App::isFirstStartInternal());
         QCOMPARE(directory(true), path);
         QVERIFY(QDir(path).exists());
+        // Any one of the application's directories tells that it ran before.
+        QVERIFY(!App::isFirstStartInternal());
     }
 
-    void firstStartDetection_data()
+    void unrelatedFoldersMeanAFirstStart()
     {
-        QTest::addColumn<DirectoryFunction>("present");
-        QTest::addColumn<bool>("firstStart");
-        QTest::newRow("nothing present") << DirectoryFunction() << true;
-        QTest::newRow("support") << DirectoryFunction(&App::supportDirectory) << false;
-        QTest::newRow("documents") << DirectoryFunction(&App::documentsDirectory) << false;
-        QTest::newRow("caches") << DirectoryFunction(&App::cachesDirectory) << false;
-        QTest::newRow("data") << DirectoryFunction(&App::dataDirectory) << false;
-        QTest::newRow("work") << DirectoryFunction(&App::workDirectory) << false;
-        QTest::newRow("pictures") << DirectoryFunction(&App::picturesDirectory) << false;
-        QTest::newRow("music") << DirectoryFunction(&App::musicDirectory) << false;
-        QTest::newRow("movies") << DirectoryFunction(&App::moviesDirectory) << false;
-        QTest::newRow("downloads") << DirectoryFunction(&App::downloadsDirectory) << false;
-        QTest::newRow("unrelated folders only") << DirectoryFunction([](bool) {
-            QDir().mkpath(QDir::homePath() + QStringLiteral("/Library/Application Support/SomeoneElse"));
-            QDir().mkpath(QDir::homePath() + QStringLiteral("/Music"));
-            return QString();
-        }) << true;
-    }
-
-    void firstStartDetection()
-    {
-        QFETCH(DirectoryFunction, present);
-        QFETCH(bool, firstStart);
         ScopedHome home;
-        if (present)
-            present(true);
-        QCOMPARE(App::isFirstStartInternal(), firstStart);
+        QDir().mkpath(home.path() + QStringLiteral("/Library/Application Support/SomeoneElse"));
+        QDir().mkpath(home.path() + QStringLiteral("/Music"));
+        QVERIFY(App::isFirstStartInternal());
     }
 
     void logLine_data()
@@ -232,25 +208,6 @@ private slots:
         QFETCH(QString, applicationDir);
         QFETCH(QString, resources);
         QCOMPARE(App::bundleResourcePathFor(applicationDir), resources);
-    }
-
-    void desktopShapes_data()
-    {
-        QTest::addColumn<QSize>("desktop");
-        QTest::addColumn<bool>("pocket");
-        QTest::addColumn<int>("smallest");
-        QTest::newRow("1024x400 wide but low") << QSize(1024, 400) << true << 400;
-        QTest::newRow("479x800 narrow") << QSize(479, 800) << true << 479;
-        QTest::newRow("480x480 just enough") << QSize(480, 480) << false << 480;
-    }
-
-    void desktopShapes()
-    {
-        QFETCH(QSize, desktop);
-        QFETCH(bool, pocket);
-        QFETCH(int, smallest);
-        QCOMPARE(App::isPocketSize(desktop), pocket);
-        QCOMPARE(App::smallestDimention(desktop), smallest);
     }
 
     void activationFlipsStateAndSignals()
@@ -358,23 +315,6 @@ private slots:
             writeFile(resources.filePath(QStringLiteral("independent")), QString());
         QCOMPARE(App::isStoreBuild(direct, resources.path() + QLatin1Char('/')), store);
         QVERIFY(!App::isAppStore());
-    }
-
-    void bundleIdentifier_data()
-    {
-        QTest::addColumn<QString>("domain");
-        QTest::addColumn<QString>("identifier");
-        QTest::newRow("maker's domain") << "corvane.com" << "com.corvane.TonariumTest";
-        QTest::newRow("three parts") << "www.corvane.com" << "com.www.TonariumTest";
-        QTest::newRow("one part") << "local" << "local.local.TonariumTest";
-    }
-
-    void bundleIdentifier()
-    {
-        QFETCH(QString, domain);
-        QFETCH(QString, identifier);
-        QCoreApplication::setOrganizationDomain(domain);
-        QCOMPARE(app()->bundleIdentifier(), identifier);
     }
 
     void currentLanguageOptimized_data()
@@ -493,28 +433,6 @@ private slots:
         App::mouseClick(&widget, asked.x(), asked.y());
         QTRY_COMPARE(widget.releasedAt, landed);
         QCOMPARE(widget.pressedAt, landed);
-    }
-
-    void widgetByClassName_data()
-    {
-        QTest::addColumn<QString>("className");
-        QTest::addColumn<QString>("found");
-        QTest::newRow("top-level window") << "QDialog" << "dialog";
-        QTest::newRow("child of a window") << "QPushButton" << "button";
-        QTest::newRow("absent class") << "QSlider" << "";
-    }
-
-    void widgetByClassName()
-    {
-        QFETCH(QString, className);
-        QFETCH(QString, found);
-        QWidget window;
-        window.setObjectName(QStringLiteral("window"));
-        (new QPushButton(&window))->setObjectName(QStringLiteral("button"));
-        QDialog dialog;
-        dialog.setObjectName(QStringLiteral("dialog"));
-        const QWidget* widget = app()->getWidgetByClassName(className);
-        QCOMPARE(widget ? widget->objectName() : QString(), found);
     }
 };
 

@@ -22,9 +22,6 @@ private slots:
         QTest::newRow("fit: wide picture, tall label, ratio 2")
             << QSize(200, 100) << QSize(100, 300) << 2.0 << int(Label::Fit) << QRectF(0, 125, 100, 50)
             << QSize(200, 100);
-        QTest::newRow("fit: tall picture, wide label, ratio 1")
-            << QSize(100, 200) << QSize(300, 100) << 1.0 << int(Label::Fit) << QRectF(125, 0, 50, 100)
-            << QSize(50, 100);
         QTest::newRow("fit: small picture grows to the label")
             << QSize(10, 10) << QSize(60, 40) << 2.0 << int(Label::Fit) << QRectF(10, 0, 40, 40) << QSize(80, 80);
         QTest::newRow("fill: wide picture covers a tall label from the corner")

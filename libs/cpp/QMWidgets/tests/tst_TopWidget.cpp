@@ -1,6 +1,5 @@
 #include "TopWidget.h"
 
-#include <QBoxLayout>
 #include <QPushButton>
 #include <QTimer>
 #include <QtTest>
@@ -52,27 +51,6 @@ private slots:
         QCOMPARE(window.exec(), expected);
         QVERIFY(wasModal);
         QVERIFY(!window.isVisible());
-    }
-
-    void overlayNestsContent_data()
-    {
-        QTest::addColumn<bool>("overlay");
-        QTest::addColumn<QString>("contentOwner");
-        QTest::addColumn<int>("margin");
-        QTest::newRow("overlay") << true << "TopOverWidget" << 0;
-        QTest::newRow("plain") << false << "" << 1;
-    }
-
-    void overlayNestsContent()
-    {
-        QFETCH(bool, overlay);
-        QFETCH(QString, contentOwner);
-        QFETCH(int, margin);
-        TopWidget window(overlay);
-        QWidget* owner = window.topLayout()->parentWidget();
-        QCOMPARE(owner == &window, !overlay);
-        QCOMPARE(owner->objectName(), contentOwner);
-        QCOMPARE(window.topLayout()->contentsMargins().left(), margin);
     }
 };
 
