@@ -56,65 +56,47 @@ private slots:
         m_catcher.urls.clear();
     }
 
-    void barButtonsLeftToRight_data()
+    void barButtonsAndAppMenu_data()
     {
         QTest::addColumn<bool>("kidsMode");
-        QTest::addColumn<QStringList>("expected");
-        QTest::newRow("direct build")
-            << false << QStringList { "MoreButton", "Centre", "IntroButton", "ShareButton", "JoinButton", "AppButton" };
-        QTest::newRow("kids mode keeps intro and centre") << true << QStringList { "Centre", "IntroButton" };
+        QTest::addColumn<bool>("hideRate");
+        QTest::addColumn<QStringList>("buttons");
+        QTest::addColumn<QStringList>("entries");
+        const QStringList bar { "MoreButton", "Centre", "IntroButton", "ShareButton", "JoinButton", "AppButton" };
+        QTest::newRow("direct build: Check Updates, no rate entry") << false << false << bar
+            << QStringList { "Share", "Join Us", "More Apps", "Contacts Us", "Support Page", "Check Updates", "About",
+                             "-", "Quit" };
+        QTest::newRow("hiding the rate action hides Check Updates") << false << true << bar
+            << QStringList { "Share", "Join Us", "More Apps", "Contacts Us", "Support Page", "About", "-", "Quit" };
+        QTest::newRow("kids mode keeps intro and centre, hides the update check") << true << false
+            << QStringList { "Centre", "IntroButton" } << QStringList { "Contacts Us", "About", "-", "Quit" };
     }
 
-    void barButtonsLeftToRight()
+    void barButtonsAndAppMenu()
     {
         QFETCH(bool, kidsMode);
-        QFETCH(QStringList, expected);
+        QFETCH(bool, hideRate);
+        QFETCH(QStringList, buttons);
+        QFETCH(QStringList, entries);
         App::theApp()->setKidsMode(kidsMode);
-
         PromoMenuBar bar;
         auto* centre = new QLabel(QStringLiteral("centre"));
         centre->setObjectName(QStringLiteral("Centre"));
         bar.addCenterWidget(centre);
+        if (hideRate)
+            bar.hideRateAction();
         bar.resize(800, 45);
         bar.show();
         QVERIFY(QTest::qWaitForWindowExposed(&bar));
-
         QMap<int, QString> namesByX;
         for (QWidget* child : bar.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
             if (child->isVisible() && !child->objectName().isEmpty())
                 namesByX.insert(child->x(), child->objectName());
         }
-        QCOMPARE(namesByX.values(), expected);
-    }
+        QCOMPARE(namesByX.values(), buttons);
 
-    void appMenuEntries_data()
-    {
-        QTest::addColumn<bool>("kidsMode");
-        QTest::addColumn<bool>("hideRate");
-        QTest::addColumn<QStringList>("expected");
-        QTest::newRow("direct build shows Check Updates, no rate entry")
-            << false << false
-            << QStringList { "Share", "Join Us", "More Apps", "Contacts Us", "Support Page", "Check Updates", "About",
-                   "-", "Quit" };
-        QTest::newRow("hiding the rate action hides Check Updates")
-            << false << true
-            << QStringList { "Share", "Join Us", "More Apps", "Contacts Us", "Support Page", "About", "-", "Quit" };
-        QTest::newRow("kids mode hides the update check with the rate entry")
-            << true << false << QStringList { "Contacts Us", "About", "-", "Quit" };
-    }
-
-    void appMenuEntries()
-    {
-        QFETCH(bool, kidsMode);
-        QFETCH(bool, hideRate);
-        QFETCH(QStringList, expected);
-        App::theApp()->setKidsMode(kidsMode);
-
-        PromoMenuBar bar;
-        if (hideRate)
-            bar.hideRateAction();
         QMenu* menu = bar.appButton()->appMenu();
-        QCOMPARE(visibleEntries(menu), expected);
+        QCOMPARE(visibleEntries(menu), entries);
         QCOMPARE(bar.appButton()->menu(), menu);
         QSignalSpy quit(bar.appButton(), &AppButton::quitPressed);
         menu->actions().constLast()->trigger();
