@@ -27,7 +27,6 @@ private slots:
         QTest::newRow("home page linked")
             << QDate(2014, 8, 1) << false << "HREF=\"https://www.corvane.com\">corvane.com</A><BR>" << "";
         QTest::newRow("kids mode: domain without link") << QDate(2014, 8, 1) << true << "corvane.com<BR>" << "<A ";
-        QTest::newRow("maker's logo") << QDate(2014, 8, 1) << true << "<IMG SRC=\":/pix/corvanelogo.png\">" << "";
     }
 
     void infoText()

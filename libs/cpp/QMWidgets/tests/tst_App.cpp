@@ -64,16 +64,7 @@ class tst_App : public QObject
 {
     Q_OBJECT
 
-public:
-    explicit tst_App(const QString& startHome)
-        : m_startHome(startHome)
-    {
-    }
-
-private:
     App* app() const { return App::theApp(); }
-
-    QString m_startHome;
 
 private slots:
     void firstStartOfAnEmptyHome()
@@ -87,8 +78,7 @@ private slots:
     {
         app()->setSettingsValue(QStringLiteral("Width"), 1024);
         app()->settings()->sync();
-        const QString content
-            = readFile(m_startHome + QStringLiteral("/Library/Application Support/TonariumTest/settings.plist"));
+        const QString content = readFile(App::supportDirectory(false) + QStringLiteral("settings.plist"));
         const QRegularExpression keyInGroup(QStringLiteral("\\[TonariumTest\\]\\n([^[].*\\n)*Width=1024\\n"));
         QVERIFY2(keyInGroup.match(content).hasMatch(), qPrintable(content));
     }
@@ -374,17 +364,13 @@ private slots:
         QTest::addColumn<QString>("supportPage");
         QTest::addColumn<QString>("expected");
         const QString page = QStringLiteral("https://www.corvane.com/apps/tonariumtest/");
-        const QString store = QStringLiteral("https://apps.apple.com/app/");
         const QString tell = QStringLiteral("mailto:?subject=Check out the cool TonariumTest app!&body=Hi, check out "
                                             "this cool TonariumTest app - available in the App Stores: ");
         QTest::newRow("rate in the store")
-            << Link(&App::rateAppUrl) << "" << store + "tonariumtest/id918273645?ls=1&mt=12";
-        QTest::newRow("promoted app in the store")
-            << Link(&App::promotedAppUrl) << "" << store + "chordtonarium/id123456789?ls=1&mt=12";
+            << Link(&App::rateAppUrl) << "" << "https://apps.apple.com/app/tonariumtest/id918273645?ls=1&mt=12";
         QTest::newRow("support page: the maker's site without one")
             << Link(&App::supportPageUrl) << "" << "https://www.corvane.com";
         QTest::newRow("support page as set") << Link(&App::supportPageUrl) << page << page;
-        QTest::newRow("more apps") << Link(&App::moreAppsUrl) << "" << "https://www.corvane.com/apps";
         QTest::newRow("contact mail: version, system and language")
             << Link(&App::contactUsLink) << ""
             << "mailto:support@corvane.com?subject=Contact (TonariumTest 1.2) <os> de I&body=";
@@ -403,7 +389,6 @@ private slots:
         app()->currentLanguage();
         app()->setCurrentLanguage(QStringLiteral("de"));
         app()->setAppId(QStringLiteral("id918273645"));
-        app()->setPromotedAppNameAndID(QStringLiteral("ChordTonarium"), QStringLiteral("id123456789"));
         if (supportPage == QLatin1String("maker"))
             app()->setCorvaneLinks();
         else
@@ -444,7 +429,7 @@ int main(int argc, char* argv[])
     for (const char* name : { "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DOCUMENTS_DIR" })
         qunsetenv(name);
     App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral("TonariumTest"));
-    tst_App test(home.path());
+    tst_App test;
     return QTest::qExec(&test, argc, argv);
 }
 
