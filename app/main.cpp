@@ -5,10 +5,13 @@
 #include "CorvaneSite.h"
 #include "GuitarTonariumMainPage.h"
 
-#include <QWidget>
 
 int main(int argc, char* argv[])
 {
+    // Scale with the screen and take the sharp pixmaps on high-density displays,
+    // as the pictures and the style's icons come at twice the size.
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QMWidgets::App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral("GuitarTonarium"));
     // A second launch only brings the running window forward.
     if (App_mac::instance()->isRunningElsewhere())
