@@ -156,11 +156,14 @@ QPainterPath bodyPath(const QString& instrument, const QSizeF& s)
         return path;
     }
     // Guitar and bass: a figure of eight, the bass a little longer.
+    // The bass has a slimmer, offset body.
     const bool bass = instrument == QLatin1String("bass");
-    const qreal waist = bass ? 0.62 : 0.6;
-    path.addEllipse(QPointF(w * 0.5, h * (waist - 0.1)), w * 0.16, h * 0.13);
-    path.addEllipse(QPointF(w * 0.5, h * (waist + 0.15)), w * 0.22, h * 0.18);
-    return path.simplified();
+    const qreal upper = bass ? 0.15 : 0.17;
+    path.addEllipse(QPointF(w * 0.5, h * 0.55), w * upper, h * 0.12);
+    path.addEllipse(QPointF(w * 0.5, h * 0.74), w * 0.22, h * 0.15);
+    QPainterPath waist;
+    waist.addRect(QRectF(w * 0.36, h * 0.58, w * 0.28, h * 0.1));
+    return path.united(waist).simplified();
 }
 
 void paintInstrument(QPainter& p, const QSizeF& s, const QString& instrument)
@@ -205,7 +208,7 @@ void paintInstrument(QPainter& p, const QSizeF& s, const QString& instrument)
     if (instrument == QLatin1String("banjo"))
         p.drawEllipse(QPointF(s.width() * 0.5, s.height() * 0.68), s.width() * 0.17, s.width() * 0.17);
     else if (instrument != QLatin1String("balalaika"))
-        p.drawEllipse(QPointF(s.width() * 0.5, s.height() * 0.66), s.width() * 0.06, s.width() * 0.06);
+        p.drawEllipse(QPointF(s.width() * 0.5, s.height() * 0.62), s.width() * 0.06, s.width() * 0.06);
     else
         p.drawEllipse(QPointF(s.width() * 0.5, s.height() * 0.7), s.width() * 0.035, s.width() * 0.035);
 }
