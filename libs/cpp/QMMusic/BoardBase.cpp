@@ -5,12 +5,11 @@
 #include "GuitarFretMap.h"
 #include "NoteSpelling.h"
 #include "OverlayStrip.h"
+#include "TrainingDraw.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
-#include <QRandomGenerator>
-#include <QTime>
 
 namespace QMMusic {
 
@@ -83,8 +82,7 @@ void BoardBase::slotNextNote()
 {
     if (m_trainingNotes.isEmpty())
         return;
-    QRandomGenerator generator(quint32(QTime::currentTime().msec()));
-    const QString position = m_trainingNotes.at(int(generator.generate() % quint32(m_trainingNotes.size())));
+    const QString position = TrainingDraw::pick(m_trainingNotes);
     const QString name = NoteSpelling::positionNoteName(position);
     const int sharp = NoteSpelling::positionAccidental(position);
     slotSetNote(name, sharp);

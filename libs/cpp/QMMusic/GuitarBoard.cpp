@@ -5,12 +5,11 @@
 #include "GuitarFretMap.h"
 #include "NoteSpelling.h"
 #include "OverlayStrip.h"
+#include "TrainingDraw.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
-#include <QRandomGenerator>
-#include <QTime>
 
 namespace QMMusic {
 
@@ -19,25 +18,13 @@ GuitarBoard::GuitarBoard(QWidget* parent)
 {
     QMMultiMedia::AudioPoolPlayer::instance()->setVolume(50);
 
-    const QList<QString> stems = {
-        QStringLiteral("A2"), QStringLiteral("A3"), QStringLiteral("A4"), QStringLiteral("A5"),
-        QStringLiteral("Ad2"), QStringLiteral("Ad3"), QStringLiteral("Ad4"), QStringLiteral("Ad5"),
-        QStringLiteral("B2"), QStringLiteral("B3"), QStringLiteral("B4"), QStringLiteral("B5"),
-        QStringLiteral("C3"), QStringLiteral("C4"), QStringLiteral("C5"), QStringLiteral("C6"),
-        QStringLiteral("Cd3"), QStringLiteral("Cd4"), QStringLiteral("Cd5"), QStringLiteral("Cd6"),
-        QStringLiteral("D3"), QStringLiteral("D4"), QStringLiteral("D5"), QStringLiteral("D6"),
-        QStringLiteral("Dd3"), QStringLiteral("Dd4"), QStringLiteral("Dd5"),
-        QStringLiteral("E2"), QStringLiteral("E3"), QStringLiteral("E4"), QStringLiteral("E5"),
-        QStringLiteral("F2"), QStringLiteral("F3"), QStringLiteral("F4"), QStringLiteral("F5"),
-        QStringLiteral("Fd2"), QStringLiteral("Fd3"), QStringLiteral("Fd4"), QStringLiteral("Fd5"),
-        QStringLiteral("G2"), QStringLiteral("G3"), QStringLiteral("G4"), QStringLiteral("G5"),
-        QStringLiteral("Gd2"), QStringLiteral("Gd3"), QStringLiteral("Gd4"), QStringLiteral("Gd5"),
-    };
-    for (const QString& stem : stems) {
+    // The 47 stems, E2 to D6, are the file spellings of the training notes.
+    m_trainingNotes = GuitarFretMap::noteOrder();
+    for (const QString& position : qAsConst(m_trainingNotes)) {
+        const QString stem = NoteSpelling::positionStem(position);
         m_overlayMap.insert(QStringLiteral(":/Guitar_%1.png").arg(stem),
                             QStringLiteral(":/Guitar_") + stem + QStringLiteral("@2x.png"));
     }
-    m_trainingNotes = GuitarFretMap::noteOrder();
 
     const BoardModeSwitch modeSwitch(this, tr("Find Note"), tr("Training"));
     m_trainingButton = modeSwitch.trainingButton();
@@ -95,8 +82,7 @@ void GuitarBoard::slotNextNote()
 {
     if (m_trainingNotes.isEmpty())
         return;
-    QRandomGenerator generator(quint32(QTime::currentTime().msec()));
-    const QString position = m_trainingNotes.at(int(generator.generate() % quint32(m_trainingNotes.size())));
+    const QString position = TrainingDraw::pick(m_trainingNotes);
     const QString name = NoteSpelling::positionNoteName(position);
     const int sharp = NoteSpelling::positionAccidental(position);
     slotSetNote(name, sharp);
