@@ -1,10 +1,9 @@
 #include "App.h"
-#include "App_mac.h"
 #include "AppStyleSheet.h"
+#include "App_mac.h"
 #include "CorvaneProducts.h"
 #include "CorvaneSite.h"
 #include "GuitarTonariumMainPage.h"
-
 
 int main(int argc, char* argv[])
 {
@@ -34,7 +33,7 @@ int main(int argc, char* argv[])
     page.setMinimumWidth(800);
     // Only the tuner pages store these; this window opens at its minimum.
     page.resize(app.settingsValue(QStringLiteral("Width"), page.minimumSize().width()).toInt(),
-                app.settingsValue(QStringLiteral("Height"), page.minimumSize().height()).toInt());
+        app.settingsValue(QStringLiteral("Height"), page.minimumSize().height()).toInt());
 
     QObject::connect(&app, &QMWidgets::App::dockClicked, &page, &QWidget::showNormal);
     QObject::connect(&app, &QMWidgets::App::dockClicked, &page, [&page]() {
@@ -43,8 +42,7 @@ int main(int argc, char* argv[])
     });
 
     // The translations manager comes into being here, after the page.
-    app.setIntroductionSlides(
-        QMWidgets::App::introductionSlidesFor(app.bundleResourcePath(), app.currentLanguage()));
+    app.setIntroductionSlides(QMWidgets::App::introductionSlidesFor(app.bundleResourcePath(), app.currentLanguage()));
 
     page.setWindowTitle(QCoreApplication::applicationName());
     app.setMainWidget(&page);

@@ -61,12 +61,21 @@ void bench_AudioConversion::conversion()
     std::vector<float> floats(samples);
     std::vector<char> raw(3 * static_cast<size_t>(samples));
 
-    QBENCHMARK {
+    QBENCHMARK
+    {
         switch (kind) {
-        case 0: Util::convertFloatTo16(m_floats.data(), ints.data(), samples); break;
-        case 1: Util::convert16ToFloat(m_ints16.data(), floats.data(), samples); break;
-        case 2: Util::convertFloatTo24(m_floats.data(), ints.data(), samples); break;
-        case 3: Util::convert24ToFloat(m_ints24.data(), floats.data(), samples); break;
+        case 0:
+            Util::convertFloatTo16(m_floats.data(), ints.data(), samples);
+            break;
+        case 1:
+            Util::convert16ToFloat(m_ints16.data(), floats.data(), samples);
+            break;
+        case 2:
+            Util::convertFloatTo24(m_floats.data(), ints.data(), samples);
+            break;
+        case 3:
+            Util::convert24ToFloat(m_ints24.data(), floats.data(), samples);
+            break;
         case 4:
             Util::convertFloatTo16(m_floats.data(), ints.data(), samples);
             Util::convert16UToRaw(ints.data(), raw.data(), 2 * samples, true);

@@ -37,7 +37,8 @@ void bench_FrameCount::frameToTimecode()
     QFETCH(float, fps);
     QFETCH(bool, pulldown);
     long long sum = 0;
-    QBENCHMARK {
+    QBENCHMARK
+    {
         FrameCount count(0, fps);
         for (int i = 0; i < conversions; ++i) {
             count.setFrameCount(i * 7LL);
@@ -60,7 +61,8 @@ void bench_FrameCount::timecodeToFrame()
     QFETCH(bool, pulldown);
     const FrameCount count(0, fps);
     FipTime sum = 0;
-    QBENCHMARK {
+    QBENCHMARK
+    {
         for (int i = 0; i < conversions; ++i)
             sum += count.frameCountFromTimecode(i % 24, i % 60, (i / 60) % 60, i % 24, pulldown, 3);
     }
@@ -70,7 +72,8 @@ void bench_FrameCount::timecodeToFrame()
 void bench_FrameCount::frameToText()
 {
     int length = 0;
-    QBENCHMARK {
+    QBENCHMARK
+    {
         FrameCount count(0, 29.97f);
         for (int i = 0; i < conversions; ++i) {
             count.setFrameCount(i * 7LL);
@@ -85,7 +88,8 @@ void bench_FrameCount::textToFrame()
     const QString text = QStringLiteral("12:34:56;12");
     const FrameCount count(0, 29.97f);
     FipTime sum = 0;
-    QBENCHMARK {
+    QBENCHMARK
+    {
         for (int i = 0; i < conversions; ++i)
             sum += count.frameCountFromTimecode(text);
     }
@@ -95,7 +99,8 @@ void bench_FrameCount::textToFrame()
 void bench_FrameCount::packedRoundTrip()
 {
     FipTime sum = 0;
-    QBENCHMARK {
+    QBENCHMARK
+    {
         FrameCount count(0, 29.97f);
         for (int i = 0; i < conversions; ++i) {
             count.setFrameCount(i * 7LL);

@@ -45,7 +45,8 @@ void BenchGuitarBoard::repaint()
     QPixmap target(board.size());
     board.render(&target);
     bool flip = false;
-    QBENCHMARK {
+    QBENCHMARK
+    {
         if (newNoteEachPaint) {
             flip = !flip;
             board.slotSetNote(flip ? QStringLiteral("F4") : QStringLiteral("E4"), 0);

@@ -52,7 +52,8 @@ void BenchNotesWidget::hoverPaint()
     QFETCH(int, firstY);
     QFETCH(int, secondY);
     bool first = true;
-    QBENCHMARK {
+    QBENCHMARK
+    {
         const QPointF pos(640, first ? firstY : secondY);
         first = !first;
         QMouseEvent move(QEvent::MouseMove, pos, Qt::NoButton, Qt::NoButton, Qt::NoModifier);

@@ -51,8 +51,8 @@ public:
         attributes.maxlength = static_cast<uint32_t>(-1);
         attributes.fragsize = BlockFrames * 2;
         int error = 0;
-        m_stream = pa_simple_new(nullptr, "bench_sound", PA_STREAM_RECORD, "null.monitor", "probe",
-                                 &format, nullptr, &attributes, &error);
+        m_stream = pa_simple_new(
+            nullptr, "bench_sound", PA_STREAM_RECORD, "null.monitor", "probe", &format, nullptr, &attributes, &error);
         if (!m_stream)
             return false;
         m_running = true;
@@ -71,8 +71,8 @@ public:
 
     static qint64 now()
     {
-        return std::chrono::duration_cast<std::chrono::nanoseconds>(
-                   std::chrono::steady_clock::now().time_since_epoch()).count();
+        return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch())
+            .count();
     }
 
 private:
@@ -115,8 +115,7 @@ double cpuSeconds()
 {
     rusage usage {};
     getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_utime.tv_sec + usage.ru_stime.tv_sec
-        + (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
+    return usage.ru_utime.tv_sec + usage.ru_stime.tv_sec + (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
 }
 
 qint64 residentBytes()
@@ -137,7 +136,8 @@ qint64 heapInUse()
 
 QString sample(const QString& stem)
 {
-    return QMWidgets::App::theApp()->bundleResourcePath() + QStringLiteral("guitar_440_") + stem + QStringLiteral(".mp3");
+    return QMWidgets::App::theApp()->bundleResourcePath() + QStringLiteral("guitar_440_") + stem
+        + QStringLiteral(".mp3");
 }
 
 } // namespace
@@ -203,15 +203,15 @@ void bench_sound::pressToSound()
         QTest::mouseRelease(&board, Qt::LeftButton, {}, point);
     }
     std::sort(latencies.begin(), latencies.end());
-    qInfo("press to sound at the monitor: median %.2f ms, min %.2f, max %.2f (%d presses)",
-          median(latencies), latencies.first(), latencies.last(), trials);
+    qInfo("press to sound at the monitor: median %.2f ms, min %.2f, max %.2f (%d presses)", median(latencies),
+        latencies.first(), latencies.last(), trials);
     QTest::setBenchmarkResult(median(latencies), QTest::WalltimeMilliseconds);
 }
 
 void bench_sound::chordStart()
 {
-    const QStringList chord { QStringLiteral("E2"), QStringLiteral("A2"), QStringLiteral("D3"),
-                              QStringLiteral("G3"), QStringLiteral("B3"), QStringLiteral("E4") };
+    const QStringList chord { QStringLiteral("E2"), QStringLiteral("A2"), QStringLiteral("D3"), QStringLiteral("G3"),
+        QStringLiteral("B3"), QStringLiteral("E4") };
     AudioPoolPlayer::instance()->setVolume(50);
     QVector<double> calls;
     QVector<double> firstSound;
@@ -229,7 +229,7 @@ void bench_sound::chordStart()
     std::sort(calls.begin(), calls.end());
     qInfo("six-note chord: the six play calls take median %.2f ms (max %.2f), so the last voice starts"
           " at most that much after the first; first sound at the monitor after median %.2f ms",
-          median(calls), calls.last(), median(firstSound));
+        median(calls), calls.last(), median(firstSound));
     QTest::setBenchmarkResult(median(calls), QTest::WalltimeMilliseconds);
 }
 
@@ -244,8 +244,8 @@ void bench_sound::cpuWhileSixNotesSound()
     QTest::qWait(1500);
     const double idle = (cpuSeconds() - idleStart) / (wall.nsecsElapsed() / 1e9);
 
-    const QStringList chord { QStringLiteral("E2"), QStringLiteral("A2"), QStringLiteral("D3"),
-                              QStringLiteral("G3"), QStringLiteral("B3"), QStringLiteral("E4") };
+    const QStringList chord { QStringLiteral("E2"), QStringLiteral("A2"), QStringLiteral("D3"), QStringLiteral("G3"),
+        QStringLiteral("B3"), QStringLiteral("E4") };
     const double busyStart = cpuSeconds();
     wall.restart();
     for (const QString& stem : chord)
@@ -253,8 +253,8 @@ void bench_sound::cpuWhileSixNotesSound()
     QTest::qWait(1500);
     const double busy = (cpuSeconds() - busyStart) / (wall.nsecsElapsed() / 1e9);
     QVERIFY(m_probe.start());
-    qInfo("CPU while six notes sound: %.1f %% of a core (decoding and start included), %.1f %% when idle",
-          busy * 100.0, idle * 100.0);
+    qInfo("CPU while six notes sound: %.1f %% of a core (decoding and start included), %.1f %% when idle", busy * 100.0,
+        idle * 100.0);
     QTest::setBenchmarkResult(busy * 100.0, QTest::Events);
 }
 
@@ -275,7 +275,7 @@ void bench_sound::memoryPerPlayer()
     const double perPlayer = double(heapAfter - heapBefore) / players;
     qInfo("memory per sounding player: %.0f kB of heap in use, resident set grew %.0f kB a player"
           " (%d players of a 1.8 s sample)",
-          perPlayer / 1024.0, double(residentAfter - residentBefore) / players / 1024.0, players);
+        perPlayer / 1024.0, double(residentAfter - residentBefore) / players / 1024.0, players);
     QTest::setBenchmarkResult(perPlayer, QTest::BytesAllocated);
     QTRY_VERIFY_WITH_TIMEOUT(pool.players().isEmpty(), 4000);
 }

@@ -108,7 +108,7 @@ void bench_startup::startupToFirstPaint()
     QVERIFY(!times.contains(-1));
     std::sort(times.begin(), times.end());
     qInfo("launch to first painted frame: median %lld ms, min %lld ms, max %lld ms over %d launches",
-          times.at(times.size() / 2), times.first(), times.last(), int(times.size()));
+        times.at(times.size() / 2), times.first(), times.last(), int(times.size()));
     // Each launch is measured on its own clock, without the shutdown and the
     // wait for a clear screen between launches; the median is the result.
     QTest::setBenchmarkResult(times.at(times.size() / 2), QTest::WalltimeMilliseconds);

@@ -44,9 +44,12 @@ private slots:
         QTest::addColumn<QString>("secondApplication");
         QTest::addColumn<QString>("secondHome");
         QTest::addColumn<bool>("same");
-        QTest::newRow("same application, same home") << "FirstTool" << "/home/a" << true;
-        QTest::newRow("other application") << "SecondTool" << "/home/a" << false;
-        QTest::newRow("other home") << "FirstTool" << "/home/b" << false;
+        QTest::newRow("same application, same home") << "FirstTool"
+                                                     << "/home/a" << true;
+        QTest::newRow("other application") << "SecondTool"
+                                           << "/home/a" << false;
+        QTest::newRow("other home") << "FirstTool"
+                                    << "/home/b" << false;
     }
 
     void serverNameIsPerApplicationAndUser()

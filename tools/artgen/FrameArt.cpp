@@ -130,8 +130,8 @@ void person(QPainter& p, const QPointF& head, qreal r, const QColor& colour)
     p.drawEllipse(head, r, r);
     QPainterPath body;
     body.moveTo(head.x() - r * 1.9, head.y() + r * 3.4);
-    body.cubicTo(head.x() - r * 1.9, head.y() + r * 1.2, head.x() + r * 1.9, head.y() + r * 1.2,
-                 head.x() + r * 1.9, head.y() + r * 3.4);
+    body.cubicTo(head.x() - r * 1.9, head.y() + r * 1.2, head.x() + r * 1.9, head.y() + r * 1.2, head.x() + r * 1.9,
+        head.y() + r * 3.4);
     body.closeSubpath();
     p.drawPath(body);
 }
@@ -164,7 +164,7 @@ void symbolGrid(QPainter& p, const QRectF& b, const QColor& colour)
     const QColor colours[] = { colour, kBrass, kRosewood.lighter(150), colour.darker(120) };
     for (int i = 0; i < 4; ++i) {
         const QRectF r(b.left() + b.width() * 0.09 + (i % 2) * (cell + gap),
-                       b.top() + b.height() * 0.09 + (i / 2) * (cell + gap), cell, cell);
+            b.top() + b.height() * 0.09 + (i / 2) * (cell + gap), cell, cell);
         p.setPen(QPen(QColor(0, 0, 0, 120), b.width() * 0.02));
         p.setBrush(colours[i]);
         p.drawRoundedRect(r, cell * 0.25, cell * 0.25);
@@ -189,7 +189,7 @@ void symbolBubble(QPainter& p, const QRectF& b, const QColor& colour)
     p.setBrush(kRosewood);
     for (int i = 0; i < 3; ++i)
         p.drawEllipse(QPointF(body.left() + body.width() * (0.28 + 0.22 * i), body.center().y()), b.width() * 0.06,
-                      b.width() * 0.06);
+            b.width() * 0.06);
 }
 
 void symbolGlobe(QPainter& p, const QRectF& b, const QColor& colour)
@@ -207,9 +207,9 @@ void symbolGlobe(QPainter& p, const QRectF& b, const QColor& colour)
     p.drawLine(QPointF(r.center().x(), r.top()), QPointF(r.center().x(), r.bottom()));
     p.drawLine(QPointF(r.left(), r.center().y()), QPointF(r.right(), r.center().y()));
     p.drawLine(QPointF(r.left() + r.width() * 0.1, r.top() + r.height() * 0.28),
-               QPointF(r.right() - r.width() * 0.1, r.top() + r.height() * 0.28));
+        QPointF(r.right() - r.width() * 0.1, r.top() + r.height() * 0.28));
     p.drawLine(QPointF(r.left() + r.width() * 0.1, r.bottom() - r.height() * 0.28),
-               QPointF(r.right() - r.width() * 0.1, r.bottom() - r.height() * 0.28));
+        QPointF(r.right() - r.width() * 0.1, r.bottom() - r.height() * 0.28));
 }
 
 void symbolHeart(QPainter& p, const QRectF& b, const QColor& colour)
@@ -218,10 +218,10 @@ void symbolHeart(QPainter& p, const QRectF& b, const QColor& colour)
     const qreal w = b.width();
     const qreal h = b.height();
     heart.moveTo(b.left() + w * 0.5, b.top() + h * 0.9);
-    heart.cubicTo(b.left() - w * 0.1, b.top() + h * 0.45, b.left() + w * 0.2, b.top() + h * 0.02,
-                  b.left() + w * 0.5, b.top() + h * 0.3);
-    heart.cubicTo(b.left() + w * 0.8, b.top() + h * 0.02, b.left() + w * 1.1, b.top() + h * 0.45,
-                  b.left() + w * 0.5, b.top() + h * 0.9);
+    heart.cubicTo(b.left() - w * 0.1, b.top() + h * 0.45, b.left() + w * 0.2, b.top() + h * 0.02, b.left() + w * 0.5,
+        b.top() + h * 0.3);
+    heart.cubicTo(b.left() + w * 0.8, b.top() + h * 0.02, b.left() + w * 1.1, b.top() + h * 0.45, b.left() + w * 0.5,
+        b.top() + h * 0.9);
     QLinearGradient g(b.topLeft(), b.bottomLeft());
     g.setColorAt(0.0, QColor(210, 70, 60));
     g.setColorAt(1.0, QColor(130, 20, 24));
@@ -243,10 +243,10 @@ void symbolGift(QPainter& p, const QRectF& b, const QColor& colour)
     p.drawRect(QRectF(b.center().x() - b.width() * 0.07, lid.top(), b.width() * 0.14, box.bottom() - lid.top()));
     p.setPen(strokePen(kBrass, b.width() * 0.07));
     p.setBrush(Qt::NoBrush);
-    p.drawEllipse(QRectF(b.center().x() - b.width() * 0.3, b.top() + b.height() * 0.06, b.width() * 0.28,
-                         b.height() * 0.18));
-    p.drawEllipse(QRectF(b.center().x() + b.width() * 0.02, b.top() + b.height() * 0.06, b.width() * 0.28,
-                         b.height() * 0.18));
+    p.drawEllipse(
+        QRectF(b.center().x() - b.width() * 0.3, b.top() + b.height() * 0.06, b.width() * 0.28, b.height() * 0.18));
+    p.drawEllipse(
+        QRectF(b.center().x() + b.width() * 0.02, b.top() + b.height() * 0.06, b.width() * 0.28, b.height() * 0.18));
     Q_UNUSED(colour);
 }
 
@@ -292,10 +292,12 @@ void symbolHeadphones(QPainter& p, const QRectF& b, const QColor& colour)
     p.drawArc(arc, 0, 180 * 16);
     p.setPen(QPen(kRosewoodDark, b.width() * 0.03));
     p.setBrush(kRosewood.lighter(120));
-    p.drawRoundedRect(QRectF(b.left() + b.width() * 0.08, b.top() + b.height() * 0.46, b.width() * 0.2,
-                             b.height() * 0.38), b.width() * 0.06, b.width() * 0.06);
-    p.drawRoundedRect(QRectF(b.right() - b.width() * 0.28, b.top() + b.height() * 0.46, b.width() * 0.2,
-                             b.height() * 0.38), b.width() * 0.06, b.width() * 0.06);
+    p.drawRoundedRect(
+        QRectF(b.left() + b.width() * 0.08, b.top() + b.height() * 0.46, b.width() * 0.2, b.height() * 0.38),
+        b.width() * 0.06, b.width() * 0.06);
+    p.drawRoundedRect(
+        QRectF(b.right() - b.width() * 0.28, b.top() + b.height() * 0.46, b.width() * 0.2, b.height() * 0.38),
+        b.width() * 0.06, b.width() * 0.06);
 }
 
 void symbolEye(QPainter& p, const QRectF& b, const QColor& colour)
@@ -394,15 +396,15 @@ void paintAppPicture(QPainter& p, const QSizeF& size, bool rounded)
     p.restore();
     p.setPen(QPen(kBrass, w * 0.012));
     p.drawLine(QPointF(w * 0.7 + w * 0.055, r.height() * 0.18 + 2.2 * w * 0.045),
-               QPointF(w * 0.7 + w * 0.055, r.height() * 0.18 - 1.2 * w * 0.045));
+        QPointF(w * 0.7 + w * 0.055, r.height() * 0.18 - 1.2 * w * 0.045));
 
     guitarShape(p, QRectF(w * 0.12, r.height() * 0.28, w * 0.62, w * 0.62));
 
     if (size.width() >= 120) {
         p.setFont(font(w * 0.085, true, true));
         p.setPen(kIvory);
-        p.drawText(QRectF(0, r.height() * 0.8, w, r.height() * 0.16), Qt::AlignCenter,
-                   QStringLiteral("GuitarTonarium"));
+        p.drawText(
+            QRectF(0, r.height() * 0.8, w, r.height() * 0.16), Qt::AlignCenter, QStringLiteral("GuitarTonarium"));
     }
 }
 
@@ -484,8 +486,8 @@ void paintMakerLogo(QPainter& p, const QSizeF& size)
     p.drawPath(diamond);
     p.setFont(font(h * 0.62, true, true));
     p.setPen(kIvory);
-    p.drawText(QRectF(h * 1.1, 0, size.width() - h * 1.1, h), Qt::AlignVCenter | Qt::AlignLeft,
-               QStringLiteral("CORVANE"));
+    p.drawText(
+        QRectF(h * 1.1, 0, size.width() - h * 1.1, h), Qt::AlignVCenter | Qt::AlignLeft, QStringLiteral("CORVANE"));
 }
 
 struct ProductIcon
@@ -506,18 +508,22 @@ void FrameArt::generate(ArtWriter& writer)
         Symbol symbol;
     };
     const BarButton barButtons[] = {
-        { "Help", symbolQuestion },          { "share", symbolShare },     { "join", symbolJoin },
-        { "AppButton", symbolMenu },         { "MoreAppsButton", symbolGrid }, { "RateButton", symbolStar },
+        { "Help", symbolQuestion },
+        { "share", symbolShare },
+        { "join", symbolJoin },
+        { "AppButton", symbolMenu },
+        { "MoreAppsButton", symbolGrid },
+        { "RateButton", symbolStar },
     };
     for (const BarButton& button : barButtons) {
         for (bool hover : { false, true }) {
             savePair(writer, QLatin1String(button.name) + (hover ? QStringLiteral("_hover") : QString()), barButton,
-                     [&](QPainter& p, const QSizeF& s) { paintBarButton(p, s, button.symbol, hover); });
+                [&](QPainter& p, const QSizeF& s) { paintBarButton(p, s, button.symbol, hover); });
         }
     }
     for (bool hover : { false, true }) {
         savePair(writer, hover ? QStringLiteral("More_hover") : QStringLiteral("More"), barButton,
-                 [&](QPainter& p, const QSizeF& s) { paintMoreButton(p, s, hover); });
+            [&](QPainter& p, const QSizeF& s) { paintMoreButton(p, s, hover); });
     }
     savePair(writer, QStringLiteral("backgroundbar"), QSize(256, 45), paintBarGround);
 
@@ -530,36 +536,44 @@ void FrameArt::generate(ArtWriter& writer)
         QColor colour;
     };
     const MenuIcon menuIcons[] = {
-        { "star", symbolStar, kBrass },           { "feedback", symbolBubble, kIvory },
-        { "webpage", symbolGlobe, kIvory },       { "moreappsicon", symbolGrid, kIvory },
-        { "musthave", symbolHeart, kIvory },      { "nicetohave", symbolGift, kIvory },
-        { "read", symbolBook, kIvory },           { "ohr", symbolHeadphones, kIvory },
-        { "eye", symbolEye, kIvory },             { "wikipedia", symbolWikipedia, kIvory },
+        { "star", symbolStar, kBrass },
+        { "feedback", symbolBubble, kIvory },
+        { "webpage", symbolGlobe, kIvory },
+        { "moreappsicon", symbolGrid, kIvory },
+        { "musthave", symbolHeart, kIvory },
+        { "nicetohave", symbolGift, kIvory },
+        { "read", symbolBook, kIvory },
+        { "ohr", symbolHeadphones, kIvory },
+        { "eye", symbolEye, kIvory },
+        { "wikipedia", symbolWikipedia, kIvory },
     };
     for (const MenuIcon& menuIcon : menuIcons) {
-        savePair(writer, QLatin1String(menuIcon.name), icon, [&](QPainter& p, const QSizeF& s) {
-            menuIcon.symbol(p, QRectF(QPointF(0, 0), s), menuIcon.colour);
-        });
+        savePair(writer, QLatin1String(menuIcon.name), icon,
+            [&](QPainter& p, const QSizeF& s) { menuIcon.symbol(p, QRectF(QPointF(0, 0), s), menuIcon.colour); });
     }
 
     savePair(writer, QStringLiteral("app"), QSize(290, 290),
-             [](QPainter& p, const QSizeF& s) { paintAppPicture(p, s, false); });
+        [](QPainter& p, const QSizeF& s) { paintAppPicture(p, s, false); });
     savePair(writer, QStringLiteral("appicon"), QSize(64, 64),
-             [](QPainter& p, const QSizeF& s) { paintAppPicture(p, s, true); });
+        [](QPainter& p, const QSizeF& s) { paintAppPicture(p, s, true); });
     savePair(writer, QStringLiteral("pix/corvanelogo"), QSize(110, 22), paintMakerLogo);
 
     // The maker's other products, listed in the "More" menu.
     const ProductIcon products[] = {
-        { "chordtonarium", "Am", QColor(150, 70, 40) },   { "basstonarium", "B", QColor(60, 80, 120) },
-        { "ukuleletonarium", "U", QColor(170, 110, 40) }, { "pianotonarium", "P", QColor(60, 60, 60) },
-        { "tunertonarium", "T", QColor(40, 110, 90) },    { "metronometonarium", "M", QColor(110, 60, 110) },
-        { "chordtransposer", "C#", QColor(130, 40, 50) }, { "soundrecorder", "R", QColor(150, 30, 30) },
+        { "chordtonarium", "Am", QColor(150, 70, 40) },
+        { "basstonarium", "B", QColor(60, 80, 120) },
+        { "ukuleletonarium", "U", QColor(170, 110, 40) },
+        { "pianotonarium", "P", QColor(60, 60, 60) },
+        { "tunertonarium", "T", QColor(40, 110, 90) },
+        { "metronometonarium", "M", QColor(110, 60, 110) },
+        { "chordtransposer", "C#", QColor(130, 40, 50) },
+        { "soundrecorder", "R", QColor(150, 30, 30) },
         { "timecodereader", "TC", QColor(40, 70, 70) },
     };
     for (const ProductIcon& product : products) {
         savePair(writer, QStringLiteral("promo/") + QLatin1String(product.name), QSize(64, 64),
-                 [&](QPainter& p, const QSizeF& s) {
-                     paintProductIcon(p, s, QString::fromLatin1(product.letters), product.accent);
-                 });
+            [&](QPainter& p, const QSizeF& s) {
+                paintProductIcon(p, s, QString::fromLatin1(product.letters), product.accent);
+            });
     }
 }

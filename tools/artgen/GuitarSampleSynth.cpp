@@ -18,8 +18,8 @@ namespace {
 const double Pi = 3.14159265358979323846;
 const double LengthSeconds = 1.8;
 const double FadeSeconds = 0.3;
-const double PickPosition = 0.13;   // fraction of the string from the bridge
-const double LoopFilterTap = 0.16;  // outer taps of the loop's lowpass
+const double PickPosition = 0.13; // fraction of the string from the bridge
+const double LoopFilterTap = 0.16; // outer taps of the loop's lowpass
 const float PeakLevel = 0.7f;
 const int ParallelEncoders = 4;
 
@@ -144,8 +144,8 @@ QVector<float> GuitarSampleSynth::pluck(int midiNote)
     }
 
     std::vector<double> string(static_cast<size_t>(length), 0.0);
-    double v1 = 0.0, v2 = 0.0;     // lowpass history
-    double f1 = 0.0, u1 = 0.0;     // allpass history
+    double v1 = 0.0, v2 = 0.0; // lowpass history
+    double f1 = 0.0, u1 = 0.0; // allpass history
     for (int n = 0; n < length; ++n) {
         const double v = n >= delayLength ? string[static_cast<size_t>(n - delayLength)] : 0.0;
         const double f = tap * v + centre * v1 + tap * v2;
@@ -204,10 +204,9 @@ void GuitarSampleSynth::generate(ArtWriter& writer)
             auto encoder = std::make_unique<QProcess>();
             encoder->setProcessChannelMode(QProcess::ForwardedChannels);
             encoder->start(QStringLiteral("lame"),
-                           { QStringLiteral("--quiet"), QStringLiteral("-m"), QStringLiteral("m"),
-                             QStringLiteral("-V"), QStringLiteral("4"), QStringLiteral("--noreplaygain"),
-                             wavePath,
-                             writer.bundlePath(QStringLiteral("guitar_440_%1.mp3").arg(stem(note))) });
+                { QStringLiteral("--quiet"), QStringLiteral("-m"), QStringLiteral("m"), QStringLiteral("-V"),
+                    QStringLiteral("4"), QStringLiteral("--noreplaygain"), wavePath,
+                    writer.bundlePath(QStringLiteral("guitar_440_%1.mp3").arg(stem(note))) });
             running.push_back(std::move(encoder));
         }
         for (auto& encoder : running)

@@ -12,7 +12,7 @@ class GuitarSampleSynth
 {
 public:
     static const int SampleRate = 44100;
-    static const int LowestMidiNote = 40;  // E2
+    static const int LowestMidiNote = 40; // E2
     static const int HighestMidiNote = 86; // D6
 
     static void generate(ArtWriter& writer);

@@ -98,7 +98,8 @@ void paintBadge(QPainter& p, const QSizeF& size, bool join)
 
 void generateChannels(ArtWriter& writer)
 {
-    struct Channel {
+    struct Channel
+    {
         const char* name;
         QColor colour;
         QString mark;
@@ -113,7 +114,8 @@ void generateChannels(ArtWriter& writer)
     for (const Channel& channel : channels) {
         for (const bool join : { true, false }) {
             for (const bool hover : { false, true }) {
-                const QString name = QString::fromLatin1(channel.name) + (join ? QStringLiteral("join") : QStringLiteral("share"))
+                const QString name = QString::fromLatin1(channel.name)
+                    + (join ? QStringLiteral("join") : QStringLiteral("share"))
                     + (hover ? QStringLiteral("_hover") : QString());
                 savePair(writer, name, size, [&](QPainter& p, const QSizeF& s) {
                     paintTile(p, s, channel.colour, hover);
@@ -276,8 +278,10 @@ void LookArt::generate(ArtWriter& writer)
     generateChannels(writer);
     generateInstruments(writer);
 
-    savePair(writer, QStringLiteral("arrowleft"), QSize(40, 40), [](QPainter& p, const QSizeF& s) { paintArrow(p, s, true); });
-    savePair(writer, QStringLiteral("arrowright"), QSize(40, 40), [](QPainter& p, const QSizeF& s) { paintArrow(p, s, false); });
+    savePair(writer, QStringLiteral("arrowleft"), QSize(40, 40),
+        [](QPainter& p, const QSizeF& s) { paintArrow(p, s, true); });
+    savePair(writer, QStringLiteral("arrowright"), QSize(40, 40),
+        [](QPainter& p, const QSizeF& s) { paintArrow(p, s, false); });
     savePair(writer, QStringLiteral("spinbox_button2"), QSize(8, 8), [](QPainter& p, const QSizeF& s) {
         QPainterPath down;
         down.moveTo(0.5, 1.5);
@@ -291,7 +295,10 @@ void LookArt::generate(ArtWriter& writer)
 
     const QSize play(48, 48);
     savePair(writer, QStringLiteral("Play"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, false, false); });
-    savePair(writer, QStringLiteral("Play_hvr"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, false, true); });
-    savePair(writer, QStringLiteral("Play_prs"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, true, false); });
-    savePair(writer, QStringLiteral("Play_prs_hvr"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, true, true); });
+    savePair(
+        writer, QStringLiteral("Play_hvr"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, false, true); });
+    savePair(
+        writer, QStringLiteral("Play_prs"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, true, false); });
+    savePair(writer, QStringLiteral("Play_prs_hvr"), play,
+        [](QPainter& p, const QSizeF& s) { paintPlay(p, s, true, true); });
 }

@@ -24,8 +24,8 @@ QVector<float> sumOfPartials(const Partial* partials, int count, double seconds,
         const Partial& partial = partials[p];
         for (int n = 0; n < length; ++n) {
             const double t = double(n) / MetronomeSoundSynth::SampleRate;
-            sum[n] += partial.amplitude * std::exp(-t / partial.decaySeconds)
-                * std::sin(2.0 * Pi * partial.frequency * t);
+            sum[n]
+                += partial.amplitude * std::exp(-t / partial.decaySeconds) * std::sin(2.0 * Pi * partial.frequency * t);
         }
     }
     double highest = 0.0;

@@ -133,7 +133,7 @@ void drawBackdrop(QPainter& painter)
 QPolygonF boardQuad(const NeckGeometry& g, double left, double right)
 {
     return QPolygonF({ toPicture(left, g.boardTop(left)), toPicture(right, g.boardTop(right)),
-                       toPicture(right, g.boardBottom(right)), toPicture(left, g.boardBottom(left)) });
+        toPicture(right, g.boardBottom(right)), toPicture(left, g.boardBottom(left)) });
 }
 
 void drawNeckShadowAndSide(QPainter& painter, const NeckGeometry& g, double nut)
@@ -142,7 +142,7 @@ void drawNeckShadowAndSide(QPainter& painter, const NeckGeometry& g, double nut)
     for (int i = 6; i >= 1; --i) {
         const double grow = i * 2.2;
         QPolygonF shadow({ toPicture(-2, g.boardTop(-2) + 4), toPicture(802, g.boardTop(802) + 4),
-                           toPicture(802, g.boardBottom(802) + 6 + grow), toPicture(-2, g.boardBottom(-2) + 6 + grow) });
+            toPicture(802, g.boardBottom(802) + 6 + grow), toPicture(-2, g.boardBottom(-2) + 6 + grow) });
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(0, 0, 0, 22));
         painter.drawPolygon(shadow);
@@ -150,8 +150,8 @@ void drawNeckShadowAndSide(QPainter& painter, const NeckGeometry& g, double nut)
 
     // The side of the neck, seen below the fingerboard: mahogany in shade.
     QPolygonF side({ toPicture(nut, g.boardBottom(nut)), toPicture(802, g.boardBottom(802)),
-                     toPicture(802, g.boardBottom(802) + 0.55 * g.spacing(802)),
-                     toPicture(nut, g.boardBottom(nut) + 0.55 * g.spacing(nut)) });
+        toPicture(802, g.boardBottom(802) + 0.55 * g.spacing(802)),
+        toPicture(nut, g.boardBottom(nut) + 0.55 * g.spacing(nut)) });
     QLinearGradient wood(0, g.boardBottom(400) * kSy, 0, (g.boardBottom(400) + 0.55 * g.spacing(400)) * kSy);
     wood.setColorAt(0.0, QColor(120, 66, 36));
     wood.setColorAt(1.0, QColor(52, 26, 14));
@@ -183,7 +183,7 @@ void drawHeadstock(QPainter& painter, const NeckGeometry& g, double nut)
     painter.save();
     painter.setClipPath(face);
     const QPolygonF quad({ toPicture(-5, topNut - 16), toPicture(nut, topNut), toPicture(nut, bottomNut),
-                           toPicture(-5, bottomNut + 14) });
+        toPicture(-5, bottomNut + 14) });
     mapTexture(painter, veneer, quad);
     // Gloss of the lacquer.
     QLinearGradient gloss(0, (topNut - 16) * kSy, 0, (bottomNut + 14) * kSy);
@@ -272,7 +272,7 @@ void drawFrets(QPainter& painter, const NeckGeometry& g)
         painter.setPen(Qt::NoPen);
         painter.setBrush(shade);
         painter.drawPolygon(QPolygonF({ toPicture(x + half, top + 0.6), toPicture(x + half + 2.4 * scale, top + 0.6),
-                                        toPicture(x + half + 2.4 * scale, bottom), toPicture(x + half, bottom) }));
+            toPicture(x + half + 2.4 * scale, bottom), toPicture(x + half, bottom) }));
 
         QLinearGradient nickel(toPicture(x - half, 0), toPicture(x + half, 0));
         nickel.setColorAt(0.0, QColor(88, 88, 92));
@@ -345,8 +345,8 @@ void drawPosts(QPainter& painter, const NeckGeometry& g)
 
 // A straight band along a string from x0 to x1 whose width grows with the
 // perspective, offset across the string by a fraction of its width.
-QPolygonF stringBand(const NeckGeometry& g, int string, double x0, double x1, double width0, double fraction,
-                     double offset)
+QPolygonF stringBand(
+    const NeckGeometry& g, int string, double x0, double x1, double width0, double fraction, double offset)
 {
     const double s0 = g.spacing(x0) / g.spacing(0);
     const double s1 = g.spacing(x1) / g.spacing(0);
@@ -355,7 +355,7 @@ QPolygonF stringBand(const NeckGeometry& g, int string, double x0, double x1, do
     const double c0 = g.stringY(string, x0) * kSy + offset * width0 * s0;
     const double c1 = g.stringY(string, x1) * kSy + offset * width0 * s1;
     return QPolygonF({ QPointF(x0 * kSx, c0 - w0), QPointF(x1 * kSx, c1 - w1), QPointF(x1 * kSx, c1 + w1),
-                       QPointF(x0 * kSx, c0 + w0) });
+        QPointF(x0 * kSx, c0 + w0) });
 }
 
 void drawStrings(QPainter& painter, const NeckGeometry& g, double nut)
@@ -451,8 +451,8 @@ void NeckArt::generate(ArtWriter& writer)
     const NeckGeometry geometry;
     const QImage neck = drawNeck(geometry);
     writer.addPicture(QStringLiteral("Guitar_0@2x.jpg"), neck, 90);
-    writer.addPicture(QStringLiteral("Guitar_0.jpg"),
-                      neck.scaled(kSmallSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), 90);
+    writer.addPicture(
+        QStringLiteral("Guitar_0.jpg"), neck.scaled(kSmallSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), 90);
 
     for (const QString& stem : NeckGeometry::stems()) {
         writer.addPicture(QStringLiteral("Guitar_%1@2x.png").arg(stem), drawOverlay(stem, kLargeSize));

@@ -44,8 +44,7 @@ QPainterPath bodyOutline(double centreX)
     const auto side = [&](double sign) {
         const auto at = [&](double x, double y) { return QPointF(centreX + sign * x, y); };
         return std::array<QPointF, 12> { at(150, 26), at(280, 90), at(280, 250), at(280, 360), at(215, 385),
-                                         at(215, 470), at(215, 550), at(380, 560), at(380, 730), at(380, 900),
-                                         at(230, 1006), at(0, 1006) };
+            at(215, 470), at(215, 550), at(380, 560), at(380, 730), at(380, 900), at(230, 1006), at(0, 1006) };
     };
     const std::array<QPointF, 12> right = side(1.0);
     for (int i = 0; i < 12; i += 3)
@@ -53,8 +52,8 @@ QPainterPath bodyOutline(double centreX)
     // Back up the other side: the same curves mirrored and reversed.
     const std::array<QPointF, 12> left = side(-1.0);
     const QPointF top(centreX, 26);
-    const std::array<QPointF, 13> chain { top, left[0], left[1], left[2], left[3], left[4], left[5],
-                                          left[6], left[7], left[8], left[9], left[10], left[11] };
+    const std::array<QPointF, 13> chain { top, left[0], left[1], left[2], left[3], left[4], left[5], left[6], left[7],
+        left[8], left[9], left[10], left[11] };
     for (int i = 12; i >= 3; i -= 3)
         path.cubicTo(chain[i - 1], chain[i - 2], chain[i - 3]);
     path.closeSubpath();
@@ -207,11 +206,12 @@ QImage sidePicture(double centreX, quint32 seed)
     // Bands along the edge, inside the outline: a black, cream and black
     // purfling, the ivory binding and the rosewood rim; each stroke is twice
     // the band's distance from the edge and half of it falls outside the clip.
-    const struct {
+    const struct
+    {
         double inset;
         QColor colour;
     } bands[] = { { 24.0, QColor(20, 14, 12) }, { 21.0, QColor(232, 222, 196) }, { 18.0, QColor(20, 14, 12) },
-                  { 15.0, QColor(226, 212, 178) }, { 6.0, QColor(64, 34, 22) } };
+        { 15.0, QColor(226, 212, 178) }, { 6.0, QColor(64, 34, 22) } };
     painter.setBrush(Qt::NoBrush);
     for (const auto& band : bands) {
         painter.setPen(QPen(band.colour, band.inset * 2.0));
@@ -248,8 +248,8 @@ QImage paperPicture()
         const QPointF start(random.next() * size.width(), random.next() * size.height());
         const double angle = random.next() * 2.0 * M_PI;
         const double length = 8.0 + random.next() * 30.0;
-        const QPointF bend(start.x() + std::cos(angle + 0.4) * length * 0.5,
-                           start.y() + std::sin(angle + 0.4) * length * 0.5);
+        const QPointF bend(
+            start.x() + std::cos(angle + 0.4) * length * 0.5, start.y() + std::sin(angle + 0.4) * length * 0.5);
         const QPointF end(start.x() + std::cos(angle) * length, start.y() + std::sin(angle) * length);
         QPainterPath fibre(start);
         fibre.quadTo(bend, end);

@@ -20,7 +20,12 @@ const QColor s_ivoryShade(214, 200, 168);
 const QColor s_binding(226, 212, 178);
 const QColor s_amber(236, 160, 70);
 
-enum class State { Normal, Hover, Disabled };
+enum class State
+{
+    Normal,
+    Hover,
+    Disabled
+};
 
 using Paint = std::function<void(QPainter&, const QSizeF&)>;
 
@@ -214,7 +219,8 @@ void TrainerArt::generate(ArtWriter& writer)
         [](QPainter& p, const QSizeF& s) { paintRoundButton(p, s, true); });
 
     const QSize key(44, 44);
-    const struct {
+    const struct
+    {
         const char* suffix;
         State state;
     } keyStates[] = { { "", State::Normal }, { "_hover", State::Hover }, { "_disabled", State::Disabled } };

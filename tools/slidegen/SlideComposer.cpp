@@ -33,12 +33,12 @@ QRectF SlideComposer::fitRect(const QSizeF& content, const QRectF& area)
     if (content.isEmpty())
         return QRectF(area.center(), QSizeF(0, 0));
     const QSizeF fitted = content.scaled(area.size(), Qt::KeepAspectRatio);
-    return QRectF(area.left() + (area.width() - fitted.width()) / 2,
-                  area.top() + (area.height() - fitted.height()) / 2, fitted.width(), fitted.height());
+    return QRectF(area.left() + (area.width() - fitted.width()) / 2, area.top() + (area.height() - fitted.height()) / 2,
+        fitted.width(), fitted.height());
 }
 
-QImage SlideComposer::compose(const QImage& content, const QList<QRectF>& rings, const QString& title,
-                              const QString& text)
+QImage SlideComposer::compose(
+    const QImage& content, const QList<QRectF>& rings, const QString& title, const QString& text)
 {
     QImage slide(Width, Height, QImage::Format_RGB32);
     QPainter p(&slide);
@@ -81,8 +81,8 @@ QImage SlideComposer::compose(const QImage& content, const QList<QRectF>& rings,
 
     const qreal scale = logical.width() > 0 ? target.width() / logical.width() : 1.0;
     for (const QRectF& ring : rings) {
-        const QRectF r(target.left() + ring.left() * scale, target.top() + ring.top() * scale,
-                       ring.width() * scale, ring.height() * scale);
+        const QRectF r(target.left() + ring.left() * scale, target.top() + ring.top() * scale, ring.width() * scale,
+            ring.height() * scale);
         const QRectF around = r.adjusted(-7, -7, 7, 7);
         p.setPen(QPen(QColor(0, 0, 0, 150), 7));
         p.drawEllipse(around);

@@ -17,6 +17,5 @@ public:
 
     // rings are given in the content's logical coordinates (the image's
     // size divided by its device pixel ratio).
-    static QImage compose(const QImage& content, const QList<QRectF>& rings, const QString& title,
-                          const QString& text);
+    static QImage compose(const QImage& content, const QList<QRectF>& rings, const QString& title, const QString& text);
 };

@@ -144,12 +144,11 @@ SlideScenes::Scene hearNotes()
     QMMusic::NotesWidget* staff = page->guitarTonarium()->decoratedNotesWidget()->notesWidget();
     // A hover over the staff, as the mouse gives it: the board follows.
     const QPoint point(staff->width() / 2, staff->nameToPos(QStringLiteral("E4")).y());
-    QMouseEvent move(QEvent::MouseMove, point, staff->mapToGlobal(point), Qt::NoButton, Qt::NoButton,
-                     Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, point, staff->mapToGlobal(point), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(staff, &move);
     settle();
     const QPointF centre = staff->mapTo(page.get(), point);
-    QList<QRectF> rings{ QRectF(centre - QPointF(18, 14), QSizeF(36, 28)) };
+    QList<QRectF> rings { QRectF(centre - QPointF(18, 14), QSizeF(36, 28)) };
     rings.append(placesOf(*page, page->guitarTonarium()->guitarBoard()->currentNote()));
     return { grab(page.get()), rings };
 }

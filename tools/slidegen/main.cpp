@@ -21,7 +21,7 @@ int main(int argc, char* argv[])
     QTemporaryDir home;
     qputenv("HOME", home.path().toUtf8());
     QSettings seed(home.path() + QStringLiteral("/Library/Application Support/GuitarTonarium/settings.plist"),
-                   QSettings::IniFormat);
+        QSettings::IniFormat);
     seed.setValue(QStringLiteral("GuitarTonarium/checkupdates"), false);
     seed.sync();
 
@@ -36,8 +36,7 @@ int main(int argc, char* argv[])
     for (const QString& language : SlideCaptions::languages()) {
         for (int n = 0; n < scenes.size(); ++n) {
             const QImage slide = SlideComposer::compose(scenes.at(n).content, scenes.at(n).rings,
-                                                        SlideCaptions::title(n, language),
-                                                        SlideCaptions::text(n, language));
+                SlideCaptions::title(n, language), SlideCaptions::text(n, language));
             ok = slide.save(outputDir + QStringLiteral("/TRXSlide%1_%2.jpg").arg(n).arg(language), "JPG", 88) && ok;
         }
     }

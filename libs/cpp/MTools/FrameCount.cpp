@@ -13,22 +13,65 @@ namespace {
 // Twice the 24-frame film frame for each frame of 30-frame video, one column per
 // pulldown phase; the low bit marks the second half of a film frame.
 const int pulldownRemoveLookupTable[30][4] = {
-    {0, 0, -1, -1},   {2, 1, 0, 0},     {3, 2, 2, 2},     {4, 4, 4, 4},     {6, 6, 6, 5},
-    {8, 8, 7, 6},     {10, 9, 8, 8},    {11, 10, 10, 10}, {12, 12, 12, 12}, {14, 14, 14, 13},
-    {16, 16, 15, 14}, {18, 17, 16, 16}, {19, 18, 18, 18}, {20, 20, 20, 20}, {22, 22, 22, 21},
-    {24, 24, 23, 22}, {26, 25, 24, 24}, {27, 26, 26, 26}, {28, 28, 28, 28}, {30, 30, 30, 29},
-    {32, 32, 31, 30}, {34, 33, 32, 32}, {35, 34, 34, 34}, {36, 36, 36, 36}, {38, 38, 38, 37},
-    {40, 40, 39, 38}, {42, 41, 40, 40}, {43, 42, 42, 42}, {44, 44, 44, 44}, {46, 46, 46, 45},
+    { 0, 0, -1, -1 },
+    { 2, 1, 0, 0 },
+    { 3, 2, 2, 2 },
+    { 4, 4, 4, 4 },
+    { 6, 6, 6, 5 },
+    { 8, 8, 7, 6 },
+    { 10, 9, 8, 8 },
+    { 11, 10, 10, 10 },
+    { 12, 12, 12, 12 },
+    { 14, 14, 14, 13 },
+    { 16, 16, 15, 14 },
+    { 18, 17, 16, 16 },
+    { 19, 18, 18, 18 },
+    { 20, 20, 20, 20 },
+    { 22, 22, 22, 21 },
+    { 24, 24, 23, 22 },
+    { 26, 25, 24, 24 },
+    { 27, 26, 26, 26 },
+    { 28, 28, 28, 28 },
+    { 30, 30, 30, 29 },
+    { 32, 32, 31, 30 },
+    { 34, 33, 32, 32 },
+    { 35, 34, 34, 34 },
+    { 36, 36, 36, 36 },
+    { 38, 38, 38, 37 },
+    { 40, 40, 39, 38 },
+    { 42, 41, 40, 40 },
+    { 43, 42, 42, 42 },
+    { 44, 44, 44, 44 },
+    { 46, 46, 46, 45 },
 };
 
 // The 30-frame video frame for each 24-frame film frame, one column per pulldown phase.
 // Film frame 23 in phase 4 lands on frame 0 of the next second.
 const int pulldownInsertLookupTable[24][4] = {
-    {0, 0, 1, 1},     {1, 2, 2, 2},     {3, 3, 3, 3},     {4, 4, 4, 5},     {5, 5, 6, 6},
-    {6, 7, 7, 7},     {8, 8, 8, 8},     {9, 9, 9, 10},    {10, 10, 11, 11}, {11, 12, 12, 12},
-    {13, 13, 13, 13}, {14, 14, 14, 15}, {15, 15, 16, 16}, {16, 17, 17, 17}, {18, 18, 18, 18},
-    {19, 19, 19, 20}, {20, 20, 21, 21}, {21, 22, 22, 22}, {23, 23, 23, 23}, {24, 24, 24, 25},
-    {25, 25, 26, 26}, {26, 27, 27, 27}, {28, 28, 28, 28}, {29, 29, 29, 0},
+    { 0, 0, 1, 1 },
+    { 1, 2, 2, 2 },
+    { 3, 3, 3, 3 },
+    { 4, 4, 4, 5 },
+    { 5, 5, 6, 6 },
+    { 6, 7, 7, 7 },
+    { 8, 8, 8, 8 },
+    { 9, 9, 9, 10 },
+    { 10, 10, 11, 11 },
+    { 11, 12, 12, 12 },
+    { 13, 13, 13, 13 },
+    { 14, 14, 14, 15 },
+    { 15, 15, 16, 16 },
+    { 16, 17, 17, 17 },
+    { 18, 18, 18, 18 },
+    { 19, 19, 19, 20 },
+    { 20, 20, 21, 21 },
+    { 21, 22, 22, 22 },
+    { 23, 23, 23, 23 },
+    { 24, 24, 24, 25 },
+    { 25, 25, 26, 26 },
+    { 26, 27, 27, 27 },
+    { 28, 28, 28, 28 },
+    { 29, 29, 29, 0 },
 };
 
 const float ntscVideoRate = 29.97f;
@@ -44,9 +87,8 @@ void logUnexpected(const char* file, int line)
 int fieldValue(const QChar* field)
 {
     int i = 0;
-    const auto blank = [](QChar c) {
-        return c == QLatin1Char(' ') || (c >= QLatin1Char('\t') && c <= QLatin1Char('\r'));
-    };
+    const auto blank
+        = [](QChar c) { return c == QLatin1Char(' ') || (c >= QLatin1Char('\t') && c <= QLatin1Char('\r')); };
     while (i < 2 && blank(field[i]))
         ++i;
     int sign = 1;
@@ -65,14 +107,11 @@ QString formatTimecode(int h, char first, int m, char second, int s, char third,
 {
     char buffer[64];
     if (h >= 0 && h < 100 && m >= 0 && m < 100 && s >= 0 && s < 100 && f >= 0 && f < 100) {
-        const char text[] = {char('0' + h / 10), char('0' + h % 10), first,
-                             char('0' + m / 10), char('0' + m % 10), second,
-                             char('0' + s / 10), char('0' + s % 10), third,
-                             char('0' + f / 10), char('0' + f % 10), '\0'};
+        const char text[] = { char('0' + h / 10), char('0' + h % 10), first, char('0' + m / 10), char('0' + m % 10),
+            second, char('0' + s / 10), char('0' + s % 10), third, char('0' + f / 10), char('0' + f % 10), '\0' };
         std::memcpy(buffer, text, sizeof text);
     } else {
-        std::snprintf(buffer, sizeof buffer, "%02d%c%02d%c%02d%c%02d", h, first, m, second, s,
-                      third, f);
+        std::snprintf(buffer, sizeof buffer, "%02d%c%02d%c%02d%c%02d", h, first, m, second, s, third, f);
     }
     return QString::fromLatin1(buffer);
 }
@@ -160,8 +199,7 @@ int FrameCount::nominalFrames(float fps)
     return static_cast<int>(std::fabs(fps));
 }
 
-FipTime FrameCount::frameCountFromTimecode(int h, int m, int s, int f, bool pulldown, int phase,
-                                           int* odd) const
+FipTime FrameCount::frameCountFromTimecode(int h, int m, int s, int f, bool pulldown, int phase, int* odd) const
 {
     if (m_fps == 0.0f)
         return unknownFrame;
@@ -169,8 +207,8 @@ FipTime FrameCount::frameCountFromTimecode(int h, int m, int s, int f, bool pull
     FipTime n = nominalFrames(m_fps);
     if (pulldown) {
         if (phase < 1 || phase > 4 || f < 0 || f >= 30) {
-            qDebug().nospace() << "FrameCount::frameCountFromTimecode wrong pulldown value: phase "
-                               << phase << " frame " << f;
+            qDebug().nospace() << "FrameCount::frameCountFromTimecode wrong pulldown value: phase " << phase
+                               << " frame " << f;
             return unknownFrame;
         }
         n = 24;
@@ -194,13 +232,12 @@ FipTime FrameCount::frameCountFromTimecode(const QString& text, bool pulldown, i
     if (text.size() != 11)
         return unknownFrame;
     const QChar* digits = text.constData();
-    return frameCountFromTimecode(fieldValue(digits), fieldValue(digits + 3),
-                                  fieldValue(digits + 6), fieldValue(digits + 9), pulldown, phase,
-                                  nullptr);
+    return frameCountFromTimecode(fieldValue(digits), fieldValue(digits + 3), fieldValue(digits + 6),
+        fieldValue(digits + 9), pulldown, phase, nullptr);
 }
 
-void FrameCount::timecodeFromFrameCount(int* hOut, int* mOut, int* sOut, int* fOut, bool wrap,
-                                        int offset, bool pulldown, int phase) const
+void FrameCount::timecodeFromFrameCount(
+    int* hOut, int* mOut, int* sOut, int* fOut, bool wrap, int offset, bool pulldown, int phase) const
 {
     int h = 0;
     int m = 0;
@@ -266,8 +303,7 @@ void FrameCount::timecodeFromFrameCount(int* hOut, int* mOut, int* sOut, int* fO
 
     if (pulldown) {
         if (phase < 1 || phase > 4) {
-            qDebug().nospace() << "FrameCount::timecodeFromFrameCount wrong pulldown phase value: "
-                               << phase;
+            qDebug().nospace() << "FrameCount::timecodeFromFrameCount wrong pulldown phase value: " << phase;
             deliver();
             return;
         }
@@ -432,8 +468,7 @@ void FrameCount::print() const
 
 bool FrameCount::operator==(const FrameCount& other) const
 {
-    return m_frame == other.m_frame && m_fps == other.m_fps
-        && m_frameCountKnown == other.m_frameCountKnown;
+    return m_frame == other.m_frame && m_fps == other.m_fps && m_frameCountKnown == other.m_frameCountKnown;
 }
 
 bool FrameCount::operator<(const FrameCount& other) const

@@ -22,33 +22,27 @@ public:
     FrameCount();
     FrameCount(long long frame, float fps);
     // Phases of the pulldown run from 1 to 4; *odd (if given) receives the half-frame bit.
-    FrameCount(int h, int m, int s, int f, float fps, bool pulldown = false, int phase = 1,
-               int* odd = nullptr);
-    FrameCount(float fps, unsigned int smpte, bool pulldown = false, int phase = 1,
-               int* odd = nullptr);
+    FrameCount(int h, int m, int s, int f, float fps, bool pulldown = false, int phase = 1, int* odd = nullptr);
+    FrameCount(float fps, unsigned int smpte, bool pulldown = false, int phase = 1, int* odd = nullptr);
     FrameCount(const FrameCount& other);
     FrameCount& operator=(const FrameCount& other);
 
-    FipTime frameCountFromTimecode(int h, int m, int s, int f, bool pulldown = false,
-                                   int phase = 1, int* odd = nullptr) const;
+    FipTime frameCountFromTimecode(
+        int h, int m, int s, int f, bool pulldown = false, int phase = 1, int* odd = nullptr) const;
     // Text "hh:mm:ss:ff" (any separators); any other length answers unknownFrame.
-    FipTime frameCountFromTimecode(const QString& text, bool pulldown = false,
-                                   int phase = 1) const;
+    FipTime frameCountFromTimecode(const QString& text, bool pulldown = false, int phase = 1) const;
 
     // wrap keeps a frame of exactly one day as 24:00:00:00; offset is added to the
     // video frame after pulldown.
-    void timecodeFromFrameCount(int* h, int* m, int* s, int* f, bool wrap = false,
-                                int offset = 0, bool pulldown = false, int phase = 1) const;
+    void timecodeFromFrameCount(
+        int* h, int* m, int* s, int* f, bool wrap = false, int offset = 0, bool pulldown = false, int phase = 1) const;
     // The same as text; ";" separators on the drop-frame rates. Empty at rate 0.
-    QString timecodeFromFrameCount(bool wrap = false, bool pulldown = false,
-                                   int phase = 1) const;
+    QString timecodeFromFrameCount(bool wrap = false, bool pulldown = false, int phase = 1) const;
 
-    static QString timecodeToString(int h, int m, int s, int f, bool drop, float fps,
-                                    bool film);
+    static QString timecodeToString(int h, int m, int s, int f, bool drop, float fps, bool film);
     QString timecodeToString(int h, int m, int s, int f, bool drop) const;
 
-    void setSmpteTimecode(unsigned int smpte, float fps, bool pulldown = false,
-                          int phase = 1, int* odd = nullptr);
+    void setSmpteTimecode(unsigned int smpte, float fps, bool pulldown = false, int phase = 1, int* odd = nullptr);
     unsigned int smpteTimecode();
     unsigned int calcSmpteTimecode();
 

@@ -7,14 +7,13 @@ namespace MTools {
 // Shared owner of a heap object: a small heap record holding a plain (not atomic)
 // count and the pointer. The last handle to let go deletes the object.
 // Reaching through an empty handle throws Error("Null handle").
-template <class T>
-class Handle
+template <class T> class Handle
 {
 public:
     Handle() = default;
 
     explicit Handle(T* object)
-        : m_record(object ? new Record{1, object} : nullptr)
+        : m_record(object ? new Record { 1, object } : nullptr)
     {
     }
 

@@ -72,8 +72,8 @@ bool AudioFileDecoder::decodeMp3(const QString& path, DecodedSound* sound)
     long rate = 0;
     int channels = 0;
     int encoding = 0;
-    if (mpg123_getformat(handle.get(), &rate, &channels, &encoding) != MPG123_OK
-        || encoding != MPG123_ENC_FLOAT_32 || channels < 1)
+    if (mpg123_getformat(handle.get(), &rate, &channels, &encoding) != MPG123_OK || encoding != MPG123_ENC_FLOAT_32
+        || channels < 1)
         return false;
     // Keep this one format for the whole stream.
     mpg123_format_none(handle.get());
@@ -87,7 +87,7 @@ bool AudioFileDecoder::decodeMp3(const QString& path, DecodedSound* sound)
     for (;;) {
         size_t done = 0;
         const int result = mpg123_read(handle.get(), reinterpret_cast<unsigned char*>(chunk.data()),
-                                       static_cast<size_t>(chunk.size()) * sizeof(float), &done);
+            static_cast<size_t>(chunk.size()) * sizeof(float), &done);
         const int count = static_cast<int>(done / sizeof(float));
         const int start = sound->samples.size();
         sound->samples.resize(start + count);
@@ -105,8 +105,7 @@ bool AudioFileDecoder::decodeMp3(const QString& path, DecodedSound* sound)
 bool AudioFileDecoder::decodeWithSndfile(const QString& path, DecodedSound* sound)
 {
     SF_INFO info = {};
-    std::unique_ptr<SNDFILE, SndfileCloser> file(
-        sf_open(QFile::encodeName(path).constData(), SFM_READ, &info));
+    std::unique_ptr<SNDFILE, SndfileCloser> file(sf_open(QFile::encodeName(path).constData(), SFM_READ, &info));
     if (!file || info.channels < 1 || info.samplerate < 1 || info.frames <= 0)
         return false;
     sound->samples.resize(static_cast<int>(info.frames * info.channels));

@@ -171,9 +171,8 @@ void MemoryAudioPlayer::writeAvailable()
     if (frames <= 0)
         return;
     m_scratch.resize(static_cast<int>(frames * BytesPerFrame));
-    PlaybackArithmetic::mixToStereo16(m_sound.samples.constData() + m_nextFrame * m_sound.channels,
-                                      m_sound.channels, frames, m_volume, m_pan,
-                                      reinterpret_cast<qint16*>(m_scratch.data()));
+    PlaybackArithmetic::mixToStereo16(m_sound.samples.constData() + m_nextFrame * m_sound.channels, m_sound.channels,
+        frames, m_volume, m_pan, reinterpret_cast<qint16*>(m_scratch.data()));
     const qint64 written = m_device->write(m_scratch.constData(), m_scratch.size());
     if (written > 0)
         m_nextFrame += written / BytesPerFrame;

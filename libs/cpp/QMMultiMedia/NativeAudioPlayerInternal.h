@@ -44,7 +44,12 @@ public slots:
     void slotPositionChanged();
 
 private:
-    enum State { Playing = 0, Stopped = 1, Paused = 2 };
+    enum State
+    {
+        Playing = 0,
+        Stopped = 1,
+        Paused = 2
+    };
 
     void releasePlayer();
 

@@ -37,8 +37,8 @@ static qint16 toSample16(float value)
     return static_cast<qint16>(std::lrint(scaled));
 }
 
-void PlaybackArithmetic::mixToStereo16(const float* source, int channels, qint64 frames,
-                                       float volume, float pan, qint16* target)
+void PlaybackArithmetic::mixToStereo16(
+    const float* source, int channels, qint64 frames, float volume, float pan, qint16* target)
 {
     if (channels < 1)
         return;

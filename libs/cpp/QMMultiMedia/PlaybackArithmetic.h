@@ -24,8 +24,8 @@ public:
     // Writes `frames` frames of 16-bit interleaved stereo into `target`,
     // taken from float samples with `channels` interleaved channels. Mono
     // goes to both sides; beyond two channels the first two are used.
-    static void mixToStereo16(const float* source, int channels, qint64 frames,
-                              float volume, float pan, qint16* target);
+    static void mixToStereo16(
+        const float* source, int channels, qint64 frames, float volume, float pan, qint16* target);
 
     static qint64 secondsToFrames(double seconds, int sampleRate);
     static double framesToSeconds(qint64 frames, int sampleRate);

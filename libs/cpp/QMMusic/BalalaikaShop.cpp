@@ -6,11 +6,8 @@ namespace {
 // Store fronts: United States, Germany (with Austria and Switzerland),
 // Canada, France, United Kingdom.
 const MusicShopBase::Catalogue kCatalogue = {
-    { { 30, 31, 32, 33, 34 },
-      { 30, 31, 33, 32, 34 },
-      { 26, 27, 28, 29, 30 },
-      { 26, 27, 28, 29, 30 },
-      { 27, 28, 29, 30, 31 } },
+    { { 30, 31, 32, 33, 34 }, { 30, 31, 33, 32, 34 }, { 26, 27, 28, 29, 30 }, { 26, 27, 28, 29, 30 },
+        { 27, 28, 29, 30, 31 } },
     "Balalaika",
     "Balalaika",
     "Balalaïka",

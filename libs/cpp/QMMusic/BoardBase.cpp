@@ -42,8 +42,7 @@ void BoardBase::createLayers()
 {
     for (const QString& stem : qAsConst(m_fileStems)) {
         m_overlayMap.insert(QStringLiteral(":/") + m_instrumentKey + QStringLiteral("_%1.png").arg(stem),
-                            QStringLiteral(":/") + m_instrumentKey + QStringLiteral("_") + stem
-                                + QStringLiteral("@2x.png"));
+            QStringLiteral(":/") + m_instrumentKey + QStringLiteral("_") + stem + QStringLiteral("@2x.png"));
     }
 }
 
@@ -102,8 +101,8 @@ void BoardBase::paintEvent(QPaintEvent* event)
     m_layers.drawBackground(painter, rect());
     if (m_currentNote.isEmpty())
         return;
-    const QString file = m_overlayMap[QStringLiteral(":/") + m_instrumentKey
-                                      + QStringLiteral("_%1.png").arg(m_currentNote)];
+    const QString file
+        = m_overlayMap[QStringLiteral(":/") + m_instrumentKey + QStringLiteral("_%1.png").arg(m_currentNote)];
     if (m_inTraining)
         BoardLayers::drawScaled(painter, rect(), doSingleNote(m_layers.overlay(file)));
     else

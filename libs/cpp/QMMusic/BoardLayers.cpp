@@ -37,8 +37,8 @@ QPixmap BoardLayers::scaled(const QPixmap& picture, const QSize& size)
     if (picture.isNull())
         return picture;
     const qreal ratio = pixelRatio();
-    return picture.scaled(int(size.width() * ratio), int(size.height() * ratio), Qt::KeepAspectRatio,
-                          Qt::SmoothTransformation);
+    return picture.scaled(
+        int(size.width() * ratio), int(size.height() * ratio), Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 QPixmap BoardLayers::overlay(const QString& file)
@@ -68,8 +68,8 @@ void BoardLayers::drawOverlay(QPainter& painter, const QRect& target, const QStr
     if (picture.isNull())
         return;
     const qreal ratio = pixelRatio();
-    const QSize wanted = picture.size().scaled(int(target.width() * ratio), int(target.height() * ratio),
-                                               Qt::KeepAspectRatio);
+    const QSize wanted
+        = picture.size().scaled(int(target.width() * ratio), int(target.height() * ratio), Qt::KeepAspectRatio);
     if (m_scaledOverlay.size() != wanted)
         m_scaledOverlay = scaled(picture, target.size());
     painter.drawPixmap(target, m_scaledOverlay, m_scaledOverlay.rect());

@@ -23,7 +23,7 @@ GuitarBoard::GuitarBoard(QWidget* parent)
     for (const QString& position : qAsConst(m_trainingNotes)) {
         const QString stem = NoteSpelling::positionStem(position);
         m_overlayMap.insert(QStringLiteral(":/Guitar_%1.png").arg(stem),
-                            QStringLiteral(":/Guitar_") + stem + QStringLiteral("@2x.png"));
+            QStringLiteral(":/Guitar_") + stem + QStringLiteral("@2x.png"));
     }
 
     const BoardModeSwitch modeSwitch(this, tr("Find Note"), tr("Training"));

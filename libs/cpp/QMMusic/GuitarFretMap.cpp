@@ -39,18 +39,18 @@ const int kCentres[GuitarFretMap::ColumnCount][GuitarFretMap::StringCount][2] = 
 
 // The note under each box, string by string; the far end repeats the open string.
 const char* const kNames[GuitarFretMap::StringCount][GuitarFretMap::ColumnCount] = {
-    { "E4", "F4", "F4#", "G4", "G4#", "A4", "A4#", "B4", "C5", "C5#", "D5", "D5#",
-      "E5", "F5", "F5#", "G5", "G5#", "A5", "A5#", "B5", "C6", "C6#", "D6", "E4" },
-    { "B3", "C4", "C4#", "D4", "D4#", "E4", "F4", "F4#", "G4", "G4#", "A4", "A4#",
-      "B4", "C5", "C5#", "D5", "D5#", "E5", "F5", "F5#", "G5", "G5#", "A5", "B3" },
-    { "G3", "G3#", "A3", "A3#", "B3", "C4", "C4#", "D4", "D4#", "E4", "F4", "F4#",
-      "G4", "G4#", "A4", "A4#", "B4", "C5", "C5#", "D5", "D5#", "E5", "F5", "G3" },
-    { "D3", "D3#", "E3", "F3", "F3#", "G3", "G3#", "A3", "A3#", "B3", "C4", "C4#",
-      "D4", "D4#", "E4", "F4", "F4#", "G4", "G4#", "A4", "A4#", "B4", "C5", "D3" },
-    { "A2", "A2#", "B2", "C3", "C3#", "D3", "D3#", "E3", "F3", "F3#", "G3", "G3#",
-      "A3", "A3#", "B3", "C4", "C4#", "D4", "D4#", "E4", "F4", "F4#", "G4", "A2" },
-    { "E2", "F2", "F2#", "G2", "G2#", "A2", "A2#", "B2", "C3", "C3#", "D3", "D3#",
-      "E3", "F3", "F3#", "G3", "G3#", "A3", "A3#", "B3", "C4", "C4#", "D4", "E2" },
+    { "E4", "F4", "F4#", "G4", "G4#", "A4", "A4#", "B4", "C5", "C5#", "D5", "D5#", "E5", "F5", "F5#", "G5", "G5#", "A5",
+        "A5#", "B5", "C6", "C6#", "D6", "E4" },
+    { "B3", "C4", "C4#", "D4", "D4#", "E4", "F4", "F4#", "G4", "G4#", "A4", "A4#", "B4", "C5", "C5#", "D5", "D5#", "E5",
+        "F5", "F5#", "G5", "G5#", "A5", "B3" },
+    { "G3", "G3#", "A3", "A3#", "B3", "C4", "C4#", "D4", "D4#", "E4", "F4", "F4#", "G4", "G4#", "A4", "A4#", "B4", "C5",
+        "C5#", "D5", "D5#", "E5", "F5", "G3" },
+    { "D3", "D3#", "E3", "F3", "F3#", "G3", "G3#", "A3", "A3#", "B3", "C4", "C4#", "D4", "D4#", "E4", "F4", "F4#", "G4",
+        "G4#", "A4", "A4#", "B4", "C5", "D3" },
+    { "A2", "A2#", "B2", "C3", "C3#", "D3", "D3#", "E3", "F3", "F3#", "G3", "G3#", "A3", "A3#", "B3", "C4", "C4#", "D4",
+        "D4#", "E4", "F4", "F4#", "G4", "A2" },
+    { "E2", "F2", "F2#", "G2", "G2#", "A2", "A2#", "B2", "C3", "C3#", "D3", "D3#", "E3", "F3", "F3#", "G3", "G3#", "A3",
+        "A3#", "B3", "C4", "C4#", "D4", "E2" },
 };
 
 struct Box
@@ -102,18 +102,53 @@ bool GuitarFretMap::boxContains(int x, int y, const QPoint& p)
 const QVector<QString>& GuitarFretMap::noteOrder()
 {
     static const QVector<QString> order = {
-        QStringLiteral("E2"), QStringLiteral("F2"), QStringLiteral("G2"), QStringLiteral("A2"),
-        QStringLiteral("B2"), QStringLiteral("C3"), QStringLiteral("D3"), QStringLiteral("E3"),
-        QStringLiteral("F3"), QStringLiteral("G3"), QStringLiteral("A3"), QStringLiteral("B3"),
-        QStringLiteral("C4"), QStringLiteral("D4"), QStringLiteral("E4"), QStringLiteral("F4"),
-        QStringLiteral("G4"), QStringLiteral("A4"), QStringLiteral("B4"), QStringLiteral("C5"),
-        QStringLiteral("D5"), QStringLiteral("E5"), QStringLiteral("F5"), QStringLiteral("G5"),
-        QStringLiteral("A5"), QStringLiteral("B5"), QStringLiteral("C6"), QStringLiteral("D6"),
-        QStringLiteral("F2#"), QStringLiteral("G2#"), QStringLiteral("A2#"), QStringLiteral("C3#"),
-        QStringLiteral("D3#"), QStringLiteral("F3#"), QStringLiteral("G3#"), QStringLiteral("A3#"),
-        QStringLiteral("C4#"), QStringLiteral("D4#"), QStringLiteral("F4#"), QStringLiteral("G4#"),
-        QStringLiteral("A4#"), QStringLiteral("C5#"), QStringLiteral("D5#"), QStringLiteral("F5#"),
-        QStringLiteral("G5#"), QStringLiteral("A5#"), QStringLiteral("C6#"),
+        QStringLiteral("E2"),
+        QStringLiteral("F2"),
+        QStringLiteral("G2"),
+        QStringLiteral("A2"),
+        QStringLiteral("B2"),
+        QStringLiteral("C3"),
+        QStringLiteral("D3"),
+        QStringLiteral("E3"),
+        QStringLiteral("F3"),
+        QStringLiteral("G3"),
+        QStringLiteral("A3"),
+        QStringLiteral("B3"),
+        QStringLiteral("C4"),
+        QStringLiteral("D4"),
+        QStringLiteral("E4"),
+        QStringLiteral("F4"),
+        QStringLiteral("G4"),
+        QStringLiteral("A4"),
+        QStringLiteral("B4"),
+        QStringLiteral("C5"),
+        QStringLiteral("D5"),
+        QStringLiteral("E5"),
+        QStringLiteral("F5"),
+        QStringLiteral("G5"),
+        QStringLiteral("A5"),
+        QStringLiteral("B5"),
+        QStringLiteral("C6"),
+        QStringLiteral("D6"),
+        QStringLiteral("F2#"),
+        QStringLiteral("G2#"),
+        QStringLiteral("A2#"),
+        QStringLiteral("C3#"),
+        QStringLiteral("D3#"),
+        QStringLiteral("F3#"),
+        QStringLiteral("G3#"),
+        QStringLiteral("A3#"),
+        QStringLiteral("C4#"),
+        QStringLiteral("D4#"),
+        QStringLiteral("F4#"),
+        QStringLiteral("G4#"),
+        QStringLiteral("A4#"),
+        QStringLiteral("C5#"),
+        QStringLiteral("D5#"),
+        QStringLiteral("F5#"),
+        QStringLiteral("G5#"),
+        QStringLiteral("A5#"),
+        QStringLiteral("C6#"),
     };
     return order;
 }
@@ -131,9 +166,8 @@ bool GuitarFretMap::toDesign(int x, int y, int width, int height, QPoint* design
 QString GuitarFretMap::noteAtDesignPoint(const QPoint& design)
 {
     const QVector<Box>& boxes = orderedBoxes();
-    const auto hit = std::find_if(boxes.cbegin(), boxes.cend(), [&design](const Box& box) {
-        return boxContains(box.centre.x(), box.centre.y(), design);
-    });
+    const auto hit = std::find_if(boxes.cbegin(), boxes.cend(),
+        [&design](const Box& box) { return boxContains(box.centre.x(), box.centre.y(), design); });
     return hit == boxes.cend() ? QString() : hit->name;
 }
 

@@ -6,11 +6,7 @@ namespace {
 // Store fronts: United States, Germany (with Austria and Switzerland),
 // Canada, France, United Kingdom.
 const MusicShopBase::Catalogue kCatalogue = {
-    { { 8, 9, 10, 11, 12 },
-      { 8, 9, 10, 12, 13 },
-      { 6, 7, 8, 9, 10 },
-      { 6, 7, 8, 9, 10 },
-      { 6, 7, 8, 9, 10 } },
+    { { 8, 9, 10, 11, 12 }, { 8, 9, 10, 12, 13 }, { 6, 7, 8, 9, 10 }, { 6, 7, 8, 9, 10 }, { 6, 7, 8, 9, 10 } },
     "Guitar",
     "Gitarre",
     "Guitare",

@@ -33,8 +33,8 @@ GuitarTonarium::GuitarTonarium(QWidget* parent)
     connect(m_guitarBoard, &GuitarBoard::traningSelected, this, &GuitarTonarium::slotSetTraningMode);
     connect(m_guitarBoard, &GuitarBoard::findNoteSelected, this, &GuitarTonarium::slotSetFindNoteMode);
     connect(m_decoratedNotesWidget, &DecoratedNotesWidget::needNextNote, m_guitarBoard, &GuitarBoard::slotNextNote);
-    connect(m_decoratedNotesWidget, &DecoratedNotesWidget::trainingStarted, m_guitarBoard,
-            &GuitarBoard::slotSetInTraining);
+    connect(
+        m_decoratedNotesWidget, &DecoratedNotesWidget::trainingStarted, m_guitarBoard, &GuitarBoard::slotSetInTraining);
 
     m_decoratedNotesWidget->setStartLine(8);
     m_decoratedNotesWidget->setLines(22);
@@ -43,7 +43,8 @@ GuitarTonarium::GuitarTonarium(QWidget* parent)
     m_decoratedNotesWidget->setObjectName(QStringLiteral("DecoratedNotesWidgetGuitar"));
     m_decoratedNotesWidget->setInstrumentName(QStringLiteral("guitar"));
 
-    QMWidgets::Label* rightLabel = makeSideLabel(QStringLiteral("GuitarRightLabel"), QStringLiteral(":/guitarright.jpg"));
+    QMWidgets::Label* rightLabel
+        = makeSideLabel(QStringLiteral("GuitarRightLabel"), QStringLiteral(":/guitarright.jpg"));
     QMWidgets::Label* leftLabel = makeSideLabel(QStringLiteral("GuitarLeftLabel"), QStringLiteral(":/guitarleft.jpg"));
 
     // Both directions: slotSetNote emits nothing, so a note never comes back.
@@ -78,9 +79,8 @@ void GuitarTonarium::slotSetFindNoteMode()
 {
     if (m_decoratedNotesWidget->isTrainingStarted()) {
         m_guitarBoard->setTrainButtonChecked();
-        QMWidgets::MMessageBox::information(this, tr("Info"),
-                                            tr("Please, stop the training to be able to do other actions."),
-                                            QMessageBox::Ok);
+        QMWidgets::MMessageBox::information(
+            this, tr("Info"), tr("Please, stop the training to be able to do other actions."), QMessageBox::Ok);
         return;
     }
     m_decoratedNotesWidget->slotSetFindNoteMode();

@@ -14,7 +14,14 @@ class MusicShopBase : public QObject
 
 public:
     // The store fronts; several countries share one.
-    enum class StoreFront { UnitedStates, Germany, Canada, France, UnitedKingdom };
+    enum class StoreFront
+    {
+        UnitedStates,
+        Germany,
+        Canada,
+        France,
+        UnitedKingdom
+    };
 
     static StoreFront storeFrontOf(QLocale::Country country);
 

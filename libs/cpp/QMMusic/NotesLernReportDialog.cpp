@@ -9,7 +9,7 @@
 
 namespace QMMusic {
 
-NotesLernReportDialog::NotesLernReportDialog(const QMap<QString, QPair<int, int> >& report, QWidget* parent)
+NotesLernReportDialog::NotesLernReportDialog(const QMap<QString, QPair<int, int>>& report, QWidget* parent)
     : QDialog(parent)
 {
     setMinimumWidth(300);

@@ -15,7 +15,7 @@ class NotesLernReportDialog : public QDialog
     Q_DISABLE_COPY(NotesLernReportDialog)
 
 public:
-    NotesLernReportDialog(const QMap<QString, QPair<int, int> >& report, QWidget* parent = nullptr);
+    NotesLernReportDialog(const QMap<QString, QPair<int, int>>& report, QWidget* parent = nullptr);
 };
 
 } // namespace QMMusic

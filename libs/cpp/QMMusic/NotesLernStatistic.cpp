@@ -44,8 +44,8 @@ void NotesLernStatistic::updateInfo()
     // Fixed texts, not translated, with no blank after the colon.
     m_rightLabel->setText(QStringLiteral("<FONT COLOR='green'>Right:") + QString::number(m_bar->rightCount())
         + QStringLiteral("</FONT>"));
-    m_wrongLabel->setText(QStringLiteral("<FONT COLOR='red'>Wrong:") + QString::number(m_bar->wrongCount())
-        + QStringLiteral("</FONT>"));
+    m_wrongLabel->setText(
+        QStringLiteral("<FONT COLOR='red'>Wrong:") + QString::number(m_bar->wrongCount()) + QStringLiteral("</FONT>"));
     m_bar->update();
 }
 
@@ -89,7 +89,7 @@ void NotesLernStatistic::addToReport(const QString& key, const QPair<int, int>& 
     entry->second += result.second;
 }
 
-const QMap<QString, QPair<int, int> >& NotesLernStatistic::report() const
+const QMap<QString, QPair<int, int>>& NotesLernStatistic::report() const
 {
     return m_report;
 }

@@ -31,7 +31,7 @@ public:
     void reset();
     // Adds the pair (rights, wrongs) to the entry of the key, making it if needed.
     void addToReport(const QString& key, const QPair<int, int>& result);
-    const QMap<QString, QPair<int, int> >& report() const;
+    const QMap<QString, QPair<int, int>>& report() const;
 
     NotesLernBar* bar() const;
 
@@ -43,7 +43,7 @@ private:
     QLabel* m_rightLabel = nullptr;
     QLabel* m_wrongLabel = nullptr;
     QPushButton* m_reportButton = nullptr;
-    QMap<QString, QPair<int, int> > m_report;
+    QMap<QString, QPair<int, int>> m_report;
 };
 
 } // namespace QMMusic

@@ -272,17 +272,53 @@ void NotesTrainerWidget::answer(int keyIndex)
     m_statistic->addToReport(key, right ? qMakePair(1, 0) : qMakePair(0, 1));
 }
 
-void NotesTrainerWidget::slotCClicked() { answer(0); }
-void NotesTrainerWidget::slotCDClicked() { answer(1); }
-void NotesTrainerWidget::slotDClicked() { answer(2); }
-void NotesTrainerWidget::slotDDClicked() { answer(3); }
-void NotesTrainerWidget::slotEClicked() { answer(4); }
-void NotesTrainerWidget::slotFClicked() { answer(5); }
-void NotesTrainerWidget::slotFDClicked() { answer(6); }
-void NotesTrainerWidget::slotGClicked() { answer(7); }
-void NotesTrainerWidget::slotGDClicked() { answer(8); }
-void NotesTrainerWidget::slotAClicked() { answer(9); }
-void NotesTrainerWidget::slotADClicked() { answer(10); }
-void NotesTrainerWidget::slotBClicked() { answer(11); }
+void NotesTrainerWidget::slotCClicked()
+{
+    answer(0);
+}
+void NotesTrainerWidget::slotCDClicked()
+{
+    answer(1);
+}
+void NotesTrainerWidget::slotDClicked()
+{
+    answer(2);
+}
+void NotesTrainerWidget::slotDDClicked()
+{
+    answer(3);
+}
+void NotesTrainerWidget::slotEClicked()
+{
+    answer(4);
+}
+void NotesTrainerWidget::slotFClicked()
+{
+    answer(5);
+}
+void NotesTrainerWidget::slotFDClicked()
+{
+    answer(6);
+}
+void NotesTrainerWidget::slotGClicked()
+{
+    answer(7);
+}
+void NotesTrainerWidget::slotGDClicked()
+{
+    answer(8);
+}
+void NotesTrainerWidget::slotAClicked()
+{
+    answer(9);
+}
+void NotesTrainerWidget::slotADClicked()
+{
+    answer(10);
+}
+void NotesTrainerWidget::slotBClicked()
+{
+    answer(11);
+}
 
 } // namespace QMMusic

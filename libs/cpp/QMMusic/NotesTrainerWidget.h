@@ -77,7 +77,7 @@ private:
     QString m_currentNote;
     int m_currentAccidental = 0;
     NotesLernStatistic* m_statistic = nullptr;
-    std::array<QPushButton*, KeyCount> m_keys{};
+    std::array<QPushButton*, KeyCount> m_keys {};
 };
 
 } // namespace QMMusic

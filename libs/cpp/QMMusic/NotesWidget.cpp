@@ -173,8 +173,7 @@ void NotesWidget::setNoteLabel(const QString& name, const QString& solfegeName, 
     else if (accidental == -1)
         sign = QStringLiteral("<b>") + kFlatSign + QStringLiteral("</b>");
     m_noteLabel->setText(QStringLiteral("<CENTER><FONT SIZE=\"10\">") + sign + name
-                         + QStringLiteral("</FONT><br><FONT SIZE=\"5\">(") + sign + solfegeName
-                         + QStringLiteral(")</FONT></CENTER>"));
+        + QStringLiteral("</FONT><br><FONT SIZE=\"5\">(") + sign + solfegeName + QStringLiteral(")</FONT></CENTER>"));
 }
 
 void NotesWidget::slotShowNote(const QString& name, int accidental)
@@ -261,7 +260,8 @@ void NotesWidget::regenerateKeys(const StaffGeometry& geometry)
 {
     const qreal ratio = pixelRatio();
     if (!m_noViolin)
-        m_violinKeyPixmap = scaledSquare(QStringLiteral(":/violinkey.png"), int(geometry.violinKeyRect().width() * ratio));
+        m_violinKeyPixmap
+            = scaledSquare(QStringLiteral(":/violinkey.png"), int(geometry.violinKeyRect().width() * ratio));
     if (!m_noBass)
         m_bassKeyPixmap = scaledSquare(QStringLiteral(":/basskey.png"), int(geometry.bassKeyRect().width() * ratio));
     m_regenerateKeys = false;

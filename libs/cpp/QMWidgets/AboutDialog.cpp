@@ -13,8 +13,9 @@
 namespace QMWidgets {
 
 AboutDialog::AboutDialog(QWidget* parent)
-    : QDialog(parent, Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::CustomizeWindowHint
-                          | Qt::WindowCloseButtonHint)
+    : QDialog(parent,
+        Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::CustomizeWindowHint
+            | Qt::WindowCloseButtonHint)
     , m_logoLabel(new QLabel(this))
     , m_noticesBrowser(new QTextBrowser(this))
     , m_infoLabel(new QLabel(this))
@@ -44,8 +45,8 @@ AboutDialog::AboutDialog(QWidget* parent)
     m_infoLabel->setOpenExternalLinks(true);
     m_infoLabel->setFixedHeight(85);
     m_infoLabel->setText(infoText(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
-                                  app ? app->buildDate() : QDate(), QLatin1String(CorvaneSite::domain),
-                                  QLatin1String(CorvaneSite::webHost), app && app->isKidsMode()));
+        app ? app->buildDate() : QDate(), QLatin1String(CorvaneSite::domain), QLatin1String(CorvaneSite::webHost),
+        app && app->isKidsMode()));
 
     auto* logoRow = new QHBoxLayout;
     logoRow->addStretch(1);
@@ -65,7 +66,7 @@ AboutDialog::AboutDialog(QWidget* parent)
 }
 
 QString AboutDialog::infoText(const QString& applicationName, const QString& version, const QDate& buildDate,
-                              const QString& domain, const QString& homePage, bool kidsMode)
+    const QString& domain, const QString& homePage, bool kidsMode)
 {
     QString text = QStringLiteral("<BODY BGCOLOR=#000000><FONT COLOR=#00A0E0 SIZE=2><CENTER>");
     text += applicationName + QStringLiteral(" v") + version + QStringLiteral(" Build: ")
@@ -95,7 +96,7 @@ void AboutDialog::setMainInfoVisible(bool visible)
         m_noticesButton->setText(tr("&Hide"));
         const App* app = App::theApp();
         m_noticesBrowser->setHtml(QStringLiteral("<BODY><CENTER>") + (app ? app->legalNotices() : QString())
-                                  + QStringLiteral("</CENTER></BODY>"));
+            + QStringLiteral("</CENTER></BODY>"));
     }
     // The window keeps the size it had, so it doesn't jump between views.
     setFixedSize(currentSize);

@@ -21,7 +21,7 @@ public:
     // The rich text under the picture: name, version, build date, rights,
     // the maker's domain (a link unless a child uses the program) and logo.
     static QString infoText(const QString& applicationName, const QString& version, const QDate& buildDate,
-                            const QString& domain, const QString& homePage, bool kidsMode);
+        const QString& domain, const QString& homePage, bool kidsMode);
 
     // Shows the picture and the info (true) or the legal notices (false)
     // and keeps the window at the size it had.

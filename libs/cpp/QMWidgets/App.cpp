@@ -27,8 +27,8 @@ namespace QMWidgets {
 
 namespace {
 
-const char* const monthAbbreviations[] = { "Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                           "Jul", "Aug", "Sep", "Oct", "Nov", "Dec" };
+const char* const monthAbbreviations[]
+    = { "Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec" };
 
 QString applicationNameLower()
 {
@@ -111,8 +111,8 @@ QSettings* App::settings() const
 
 QString App::homeSubDirectory(const QString& relative, bool create)
 {
-    const QString path = QDir::homePath() + relative + QLatin1Char('/') + QCoreApplication::applicationName()
-        + QLatin1Char('/');
+    const QString path
+        = QDir::homePath() + relative + QLatin1Char('/') + QCoreApplication::applicationName() + QLatin1Char('/');
     if (create)
         ensureDirExists(path);
     return path;
@@ -180,8 +180,8 @@ void App::ensureDirExists(const QString& path)
 bool App::isFirstStartInternal()
 {
     const QString paths[] = { supportDirectory(false), documentsDirectory(false), cachesDirectory(false),
-                              dataDirectory(false),    workDirectory(false),      picturesDirectory(false),
-                              musicDirectory(false),   moviesDirectory(false),    downloadsDirectory(false) };
+        dataDirectory(false), workDirectory(false), picturesDirectory(false), musicDirectory(false),
+        moviesDirectory(false), downloadsDirectory(false) };
     for (const QString& path : paths) {
         if (QDir(path).exists())
             return false;
@@ -406,8 +406,7 @@ QStringList App::introductionSlidesFor(const QString& resourcePath, const QStrin
 
 // ---- Message handlers
 
-QString App::logLine(QtMsgType type, const QMessageLogContext& context, const QString& message,
-                     const QDateTime& time)
+QString App::logLine(QtMsgType type, const QMessageLogContext& context, const QString& message, const QDateTime& time)
 {
     const char* word = nullptr;
     switch (type) {
@@ -634,8 +633,8 @@ void App::setCorvaneLinks()
 
 QString App::rateAppUrl() const
 {
-    return QLatin1String(CorvaneSite::storeHost) + QStringLiteral("/app/") + applicationNameLower()
-        + QLatin1Char('/') + m_appId + QStringLiteral("?ls=1&mt=12");
+    return QLatin1String(CorvaneSite::storeHost) + QStringLiteral("/app/") + applicationNameLower() + QLatin1Char('/')
+        + m_appId + QStringLiteral("?ls=1&mt=12");
 }
 
 QString App::promotedAppUrl() const
@@ -679,8 +678,9 @@ QString App::tellFriendLink() const
                 + QStringLiteral(".html");
     }
     // These texts stay English: the friend's language is unknown.
-    return QStringLiteral("mailto:?subject=Check out the cool ") + name + QStringLiteral(" app!&body=Hi, check out this cool ")
-        + name + QStringLiteral(" app - available in the App Stores: ") + productLink;
+    return QStringLiteral("mailto:?subject=Check out the cool ") + name
+        + QStringLiteral(" app!&body=Hi, check out this cool ") + name
+        + QStringLiteral(" app - available in the App Stores: ") + productLink;
 }
 
 void App::slotRateApp()
@@ -773,8 +773,8 @@ QPoint App::calculateMousePosition(QWidget* widget, int x, int y)
 
 void App::mousePress(QWidget* widget, int x, int y, Qt::MouseButton button, Qt::MouseButtons buttons)
 {
-    QCoreApplication::postEvent(widget,
-                                new QMouseEvent(QEvent::MouseButtonPress, QPointF(x, y), button, buttons, Qt::NoModifier));
+    QCoreApplication::postEvent(
+        widget, new QMouseEvent(QEvent::MouseButtonPress, QPointF(x, y), button, buttons, Qt::NoModifier));
 }
 
 void App::mouseRelease(QWidget* widget, int x, int y, Qt::MouseButton button, Qt::MouseButtons buttons)

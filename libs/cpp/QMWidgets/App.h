@@ -89,8 +89,8 @@ public:
     static void disableTerminalOuput();
     static void setTerminalOuputToFile();
     // The log line of a message; empty for types that are not logged.
-    static QString logLine(QtMsgType type, const QMessageLogContext& context, const QString& message,
-                           const QDateTime& time);
+    static QString logLine(
+        QtMsgType type, const QMessageLogContext& context, const QString& message, const QDateTime& time);
 
     // Build and platform information
     QString build() const;
@@ -142,11 +142,11 @@ public:
     QWidget* getWidgetByClassName(const QString& name);
     static QPoint calculateMousePosition(QWidget* widget, int x, int y);
     static void mousePress(QWidget* widget, int x, int y, Qt::MouseButton button = Qt::LeftButton,
-                           Qt::MouseButtons buttons = Qt::LeftButton);
+        Qt::MouseButtons buttons = Qt::LeftButton);
     static void mouseRelease(QWidget* widget, int x, int y, Qt::MouseButton button = Qt::LeftButton,
-                             Qt::MouseButtons buttons = Qt::NoButton);
+        Qt::MouseButtons buttons = Qt::NoButton);
     static void mouseClick(QWidget* widget, int x, int y, Qt::MouseButton button = Qt::LeftButton,
-                           Qt::MouseButtons buttons = Qt::LeftButton);
+        Qt::MouseButtons buttons = Qt::LeftButton);
 
 public slots:
     void slotRateApp();

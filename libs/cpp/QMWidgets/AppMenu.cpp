@@ -16,14 +16,13 @@ AppMenu::AppMenu(QWidget* parent)
         m_rateAction = addAction(QIcon(QStringLiteral(":/star.png")), tr("Rate this App"), app, &App::slotRateApp);
     m_shareAction = addAction(QIcon(QStringLiteral(":/share_hover.png")), tr("Share"), app, &App::slotShareApp);
     m_joinAction = addAction(QIcon(QStringLiteral(":/join_hover.png")), tr("Join Us"), app, &App::slotJoin);
-    m_moreAppsAction = addAction(QIcon(QStringLiteral(":/moreappsicon.png")), tr("More Apps"), app,
-                                 &App::slotShowMoreApps);
+    m_moreAppsAction
+        = addAction(QIcon(QStringLiteral(":/moreappsicon.png")), tr("More Apps"), app, &App::slotShowMoreApps);
     addAction(QIcon(QStringLiteral(":/feedback.png")), tr("Contacts Us"), app, &App::slotContactUs);
-    m_supportPageAction = addAction(QIcon(QStringLiteral(":/webpage.png")), tr("Support Page"), app,
-                                    &App::slotSupportPage);
+    m_supportPageAction
+        = addAction(QIcon(QStringLiteral(":/webpage.png")), tr("Support Page"), app, &App::slotSupportPage);
     if (!App::isAppStore())
-        m_rateAction = addAction(QIcon(QStringLiteral(":/star.png")), tr("Check Updates"), app,
-                                 &App::slotCheckUpdate);
+        m_rateAction = addAction(QIcon(QStringLiteral(":/star.png")), tr("Check Updates"), app, &App::slotCheckUpdate);
     addAction(QIcon(QStringLiteral(":/appicon.png")), tr("About"), app, &App::slotAbout);
     addSeparator();
     addAction(tr("Quit"), this, &AppMenu::quitPressed);

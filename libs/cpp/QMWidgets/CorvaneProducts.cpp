@@ -49,8 +49,8 @@ void CorvaneProducts::addTo(PromoMenuBar* bar)
             bar->addMenuAppLink(icon, name, QLatin1String(product.target), QLatin1String(product.storeId));
         } else {
             bar->addMenuLink(icon, name,
-                             QLatin1String(CorvaneSite::webHost) + QStringLiteral("/apps/")
-                                 + QLatin1String(product.target) + QLatin1Char('/'));
+                QLatin1String(CorvaneSite::webHost) + QStringLiteral("/apps/") + QLatin1String(product.target)
+                    + QLatin1Char('/'));
         }
     }
 }

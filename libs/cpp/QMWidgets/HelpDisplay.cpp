@@ -43,9 +43,8 @@ void HelpDisplay::updateCachedPixmap()
     // Scaled to twice the frame so that the slide stays sharp on a
     // high-density screen; an unreadable file gives a null pixmap.
     const QPixmap picture(m_slide);
-    m_cachedPixmap = picture.isNull()
-        ? QPixmap()
-        : picture.scaled(size() * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    m_cachedPixmap
+        = picture.isNull() ? QPixmap() : picture.scaled(size() * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     m_cacheValid = true;
 }
 

@@ -78,7 +78,7 @@ QLineEdit* InputDialog::stringWidget() const
 }
 
 QString InputDialog::getText(QWidget* parent, const QString& title, const QString& label, QLineEdit::EchoMode echo,
-                             const QString& text, bool* ok, const char* name)
+    const QString& text, bool* ok, const char* name)
 {
     auto* dialog = new InputDialog(label, parent, name, false, Text);
     dialog->setWindowTitle(title);
@@ -94,7 +94,7 @@ QString InputDialog::getText(QWidget* parent, const QString& title, const QStrin
 }
 
 int InputDialog::getInteger(QWidget* parent, const QString& title, const QString& label, int value, int minValue,
-                            int maxValue, int step, bool* ok, const char* name)
+    int maxValue, int step, bool* ok, const char* name)
 {
     Q_UNUSED(step)
     auto* dialog = new InputDialog(label, parent, name, true, Integer);

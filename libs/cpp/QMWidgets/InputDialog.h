@@ -16,12 +16,16 @@ class InputDialog : public QDialog
     Q_DISABLE_COPY(InputDialog)
 
 public:
-    enum Type { Integer = 0, Text = 1 };
+    enum Type
+    {
+        Integer = 0,
+        Text = 1
+    };
 
     // name is accepted for call compatibility; the object name stays
     // "InputDialog" so that the style sheet finds the dialog.
-    explicit InputDialog(const QString& label, QWidget* parent = nullptr, const char* name = nullptr,
-                         bool modal = true, Type type = Integer);
+    explicit InputDialog(const QString& label, QWidget* parent = nullptr, const char* name = nullptr, bool modal = true,
+        Type type = Integer);
 
     void setType(Type type);
     Type type() const;
@@ -31,13 +35,13 @@ public:
     // Both report a cancelled dialog only through *ok and still return the
     // field's content.
     static QString getText(QWidget* parent, const QString& title, const QString& label,
-                           QLineEdit::EchoMode echo = QLineEdit::Normal, const QString& text = QString(),
-                           bool* ok = nullptr, const char* name = nullptr);
+        QLineEdit::EchoMode echo = QLineEdit::Normal, const QString& text = QString(), bool* ok = nullptr,
+        const char* name = nullptr);
     // The value is set before the range, so it is first clamped by the spin
     // box's default range of 0 to 99; step is not used.
     static int getInteger(QWidget* parent, const QString& title, const QString& label, int value = 0,
-                          int minValue = -2147483647, int maxValue = 2147483647, int step = 1,
-                          bool* ok = nullptr, const char* name = nullptr);
+        int minValue = -2147483647, int maxValue = 2147483647, int step = 1, bool* ok = nullptr,
+        const char* name = nullptr);
 
 private:
     QSpinBox* m_spinBox = nullptr;

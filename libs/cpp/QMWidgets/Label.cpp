@@ -53,8 +53,8 @@ void Label::updateScaledPixmap(qreal ratio)
     m_scaledForSize = size();
     m_scaledForRatio = ratio;
     const QSize pixels = scaledPictureSize(m_pixmap.size(), size(), ratio, m_mode);
-    m_scaledPixmap = pixels.isEmpty() ? QPixmap()
-                                      : m_pixmap.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    m_scaledPixmap
+        = pixels.isEmpty() ? QPixmap() : m_pixmap.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 void Label::paintEvent(QPaintEvent* event)
@@ -72,8 +72,8 @@ void Label::paintEvent(QPaintEvent* event)
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(pictureRect(m_pixmap.size(), size(), ratio, m_mode), m_scaledPixmap,
-                       QRectF(m_scaledPixmap.rect()));
+    painter.drawPixmap(
+        pictureRect(m_pixmap.size(), size(), ratio, m_mode), m_scaledPixmap, QRectF(m_scaledPixmap.rect()));
 }
 
 } // namespace QMWidgets

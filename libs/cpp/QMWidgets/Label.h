@@ -14,7 +14,11 @@ class Label : public QLabel
     Q_DISABLE_COPY(Label)
 
 public:
-    enum Mode { Fit = 0, Fill = 1 };
+    enum Mode
+    {
+        Fit = 0,
+        Fill = 1
+    };
 
     explicit Label(QWidget* parent = nullptr);
 

@@ -37,14 +37,15 @@ MMessageBox::MMessageBox(Icon icon, const QString& title, const QString& text, i
     m_iconLabel->setPixmap(pixmap);
     m_iconLabel->setFixedSize(pixmap.width() + 5, pixmap.height() + 5);
 
-    QBoxLayout* buttonsLayout = isPocketDevice() ? static_cast<QBoxLayout*>(new QVBoxLayout)
-                                                 : static_cast<QBoxLayout*>(new QHBoxLayout);
+    QBoxLayout* buttonsLayout
+        = isPocketDevice() ? static_cast<QBoxLayout*>(new QVBoxLayout) : static_cast<QBoxLayout*>(new QHBoxLayout);
     buttonsLayout->setContentsMargins(1, 1, 1, 1);
     buttonsLayout->setSpacing(3);
     buttonsLayout->addStretch(1);
 
     using Slot = void (MMessageBox::*)();
-    struct ButtonEntry {
+    struct ButtonEntry
+    {
         QMessageBox::StandardButton bit;
         QString text;
         Slot slot;

@@ -15,7 +15,14 @@ class MMessageBox : public QDialog
     Q_DISABLE_COPY(MMessageBox)
 
 public:
-    enum Icon { NoIcon = 0, Information = 1, Warning = 2, Critical = 3, Question = 4 };
+    enum Icon
+    {
+        NoIcon = 0,
+        Information = 1,
+        Warning = 2,
+        Critical = 3,
+        Question = 4
+    };
 
     // buttons holds QMessageBox::StandardButton bits; the buttons stand in a
     // fixed order whatever the order of the bits (No before Yes).

@@ -31,8 +31,8 @@ void MoreAppsButton::addMenuLink(const QPixmap& icon, const QString& title, cons
     m_menu->addAction(action);
 }
 
-void MoreAppsButton::addMenuAppLink(const QPixmap& icon, const QString& title, const QString& storeName,
-                                    const QString& storeId)
+void MoreAppsButton::addMenuAppLink(
+    const QPixmap& icon, const QString& title, const QString& storeName, const QString& storeId)
 {
     addMenuLink(icon, title, PromoMenuBar::storeLink(storeName, storeId));
 }

@@ -19,8 +19,7 @@ public:
     explicit MoreAppsButton(QWidget* parent = nullptr);
 
     void addMenuLink(const QPixmap& icon, const QString& title, const QString& url);
-    void addMenuAppLink(const QPixmap& icon, const QString& title, const QString& storeName,
-                        const QString& storeId);
+    void addMenuAppLink(const QPixmap& icon, const QString& title, const QString& storeName, const QString& storeId);
     void addMenuAction(QAction* action);
     void addMenuSeparator();
 

@@ -95,8 +95,8 @@ QPushButton* PromoMenuBar::makeButton(const QString& objectName, const QString& 
 
 QString PromoMenuBar::storeLink(const QString& storeName, const QString& storeId)
 {
-    return QLatin1String(CorvaneSite::storeHost) + QStringLiteral("/app/") + storeName.toLower() + QLatin1Char('/') + storeId
-        + QStringLiteral("?ls=1&mt=12");
+    return QLatin1String(CorvaneSite::storeHost) + QStringLiteral("/app/") + storeName.toLower() + QLatin1Char('/')
+        + storeId + QStringLiteral("?ls=1&mt=12");
 }
 
 void PromoMenuBar::addMenuLink(const QPixmap& icon, const QString& title, const QString& url)
@@ -107,8 +107,8 @@ void PromoMenuBar::addMenuLink(const QPixmap& icon, const QString& title, const 
     m_shopMenu->addAction(action);
 }
 
-void PromoMenuBar::addMenuAppLink(const QPixmap& icon, const QString& title, const QString& storeName,
-                                  const QString& storeId)
+void PromoMenuBar::addMenuAppLink(
+    const QPixmap& icon, const QString& title, const QString& storeName, const QString& storeId)
 {
     addMenuLink(icon, title, storeLink(storeName, storeId));
 }
@@ -126,8 +126,8 @@ void PromoMenuBar::addMenuSeparator()
 void PromoMenuBar::addMoreAppsLink()
 {
     m_shopMenu->addSeparator();
-    m_shopMenu->addAction(QIcon(QStringLiteral(":/moreappsicon.png")), tr("More Apps"), App::theApp(),
-                          &App::slotShowMoreApps);
+    m_shopMenu->addAction(
+        QIcon(QStringLiteral(":/moreappsicon.png")), tr("More Apps"), App::theApp(), &App::slotShowMoreApps);
     m_shopMenu->addSeparator();
 }
 

@@ -27,8 +27,7 @@ public:
     static QString storeLink(const QString& storeName, const QString& storeId);
 
     void addMenuLink(const QPixmap& icon, const QString& title, const QString& url);
-    void addMenuAppLink(const QPixmap& icon, const QString& title, const QString& storeName,
-                        const QString& storeId);
+    void addMenuAppLink(const QPixmap& icon, const QString& title, const QString& storeName, const QString& storeId);
     void addMenuAction(QAction* action);
     void addMenuSeparator();
     void addMoreAppsLink();

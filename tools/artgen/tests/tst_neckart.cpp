@@ -41,8 +41,7 @@ QList<Blob> blobs(const QImage& image)
                 bounds |= QRect(p, QSize(1, 1));
                 const QPoint around[4] = { p + QPoint(1, 0), p - QPoint(1, 0), p + QPoint(0, 1), p - QPoint(0, 1) };
                 for (const QPoint& q : around) {
-                    if (!image.rect().contains(q) || seen[q.y() * image.width() + q.x()]
-                        || qAlpha(image.pixel(q)) == 0)
+                    if (!image.rect().contains(q) || seen[q.y() * image.width() + q.x()] || qAlpha(image.pixel(q)) == 0)
                         continue;
                     seen[q.y() * image.width() + q.x()] = true;
                     stack.append(q);
@@ -141,8 +140,10 @@ void TestNeckArt::overlay()
         QVERIFY2(hit != places.cend(), qPrintable(QStringLiteral("mark at %1,%2").arg(design.x()).arg(design.y())));
         places.removeOne(*hit);
 
-        QVERIFY2(blob.bounds.width() >= 82 && blob.bounds.width() <= 92, qPrintable(QString::number(blob.bounds.width())));
-        QVERIFY2(blob.bounds.height() >= 82 && blob.bounds.height() <= 92, qPrintable(QString::number(blob.bounds.height())));
+        QVERIFY2(
+            blob.bounds.width() >= 82 && blob.bounds.width() <= 92, qPrintable(QString::number(blob.bounds.width())));
+        QVERIFY2(blob.bounds.height() >= 82 && blob.bounds.height() <= 92,
+            qPrintable(QString::number(blob.bounds.height())));
         const QRgb middle = large.pixel(blob.centre.toPoint());
         QVERIFY2(qRed(middle) >= 64 && qRed(middle) <= 96, qPrintable(QString::number(qRed(middle))));
         QVERIFY2(qGreen(middle) >= 192 && qGreen(middle) <= 224, qPrintable(QString::number(qGreen(middle))));
@@ -173,13 +174,14 @@ void TestNeckArt::stringsFollowTheBoxes()
         int brightest = 0;
         for (int y = int((centre.y() - 4) * kSy); y <= int((centre.y() + 4) * kSy); ++y)
             brightest = qMax(brightest, qGray(neck.pixel(x, y)));
-        const double between = string < 6 ? (geometry.stringY(string, centre.x()) + geometry.stringY(string + 1, centre.x())) / 2
-                                          : geometry.stringY(string, centre.x()) - geometry.spacing(centre.x()) / 2;
+        const double between = string < 6
+            ? (geometry.stringY(string, centre.x()) + geometry.stringY(string + 1, centre.x())) / 2
+            : geometry.stringY(string, centre.x()) - geometry.spacing(centre.x()) / 2;
         // Inlays brighten the wood between the strings at these frets.
         const bool inlay = QList<int> { 3, 5, 7, 9, 12, 15, 17, 19, 21 }.contains(column);
         const int wood = inlay ? 0 : qGray(neck.pixel(x, int(between * kSy)));
         QVERIFY2(brightest > 140 && wood < brightest - 60,
-                 qPrintable(QStringLiteral("column %1: string %2, wood %3").arg(column).arg(brightest).arg(wood)));
+            qPrintable(QStringLiteral("column %1: string %2, wood %3").arg(column).arg(brightest).arg(wood)));
     }
 }
 
@@ -199,7 +201,8 @@ void TestNeckArt::fretWiresBetweenColumns()
         for (int x = wireX - 5; x <= wireX + 5; ++x)
             wire = qMax(wire, qGray(neck.pixel(x, int(y * kSy))));
         const int cell = qGray(neck.pixel(int(left.x() * kSx), int(y * kSy)));
-        QVERIFY2(wire > 150 && cell < 110, qPrintable(QStringLiteral("fret %1: wire %2, cell %3").arg(column).arg(wire).arg(cell)));
+        QVERIFY2(wire > 150 && cell < 110,
+            qPrintable(QStringLiteral("fret %1: wire %2, cell %3").arg(column).arg(wire).arg(cell)));
     }
 }
 

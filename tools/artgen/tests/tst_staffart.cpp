@@ -118,7 +118,8 @@ void TestStaffArt::noteHead()
     QVERIFY(qAlpha(image.pixel(256, 160)) == 255 && qGray(image.pixel(256, 160)) < 20);
     const QRect ink = inkBounds(image, image.rect());
     // One staff space high: the head fills the height, centred both ways.
-    QVERIFY2(ink.top() <= 3 && ink.bottom() >= 316, qPrintable(QStringLiteral("%1 %2").arg(ink.top()).arg(ink.bottom())));
+    QVERIFY2(
+        ink.top() <= 3 && ink.bottom() >= 316, qPrintable(QStringLiteral("%1 %2").arg(ink.top()).arg(ink.bottom())));
     QVERIFY(qAbs(ink.center().x() - 256) <= 3);
     QVERIFY(ink.width() > 256 && ink.width() < 450);
 }

@@ -7,8 +7,7 @@ using MTools::FrameCount;
 
 namespace {
 
-QString clockOf(const FrameCount& count, bool wrap = false, int offset = 0, bool pulldown = false,
-                int phase = 1)
+QString clockOf(const FrameCount& count, bool wrap = false, int offset = 0, bool pulldown = false, int phase = 1)
 {
     int h = -1, m = -1, s = -1, f = -1;
     count.timecodeFromFrameCount(&h, &m, &s, &f, wrap, offset, pulldown, phase);
@@ -85,22 +84,38 @@ void tst_FrameCount::timecode_data()
     QTest::addColumn<QString>("way"); // "->": frame gives text, "<-": text reads as frame
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("29.97 frame 1799") << 29.97f << 1799LL << "<->" << "00;00;59;29";
-    QTest::newRow("29.97 frame 1800 skips two labels") << 29.97f << 1800LL << "<->" << "00;01;00;02";
-    QTest::newRow("29.97 00:01:00;00 does not exist, reads 1798") << 29.97f << 1798LL << "<-" << "00:01:00;00";
-    QTest::newRow("29.97 tenth minute keeps its labels") << 29.97f << 17982LL << "<->" << "00;10;00;00";
-    QTest::newRow("29.97 minute 11") << 29.97f << 19782LL << "<->" << "00;11;00;02";
-    QTest::newRow("29.97 one hour") << 29.97f << 107892LL << "<->" << "01;00;00;00";
-    QTest::newRow("29.97 frame -1 is the end of the day before") << 29.97f << -1LL << "->" << "23;59;59;29";
-    QTest::newRow("23.98 drops by the same rule") << 23.98f << 1440LL << "<->" << "00;01;00;02";
-    QTest::newRow("24 two days later") << 24.0f << 2LL * 24 * 86400 + 24 << "->" << "00:00:01:00";
-    QTest::newRow("separators are not looked at") << 25.0f << 93079LL << "<-" << "01x02.03-04";
-    QTest::newRow("negative rate counts by its size") << -25.0f << 25LL << "<->" << "00:00:01:00";
-    QTest::newRow("odd rate is cut to an integer") << 12.9f << 25LL << "<->" << "00:00:02:01";
-    QTest::newRow("minus sign") << 25.0f << -90000LL << "<-" << "-1:00:00:00";
-    QTest::newRow("10 characters") << 25.0f << unknown << "<-" << "1:02:03:04";
-    QTest::newRow("rate 0 reads no frame") << 0.0f << unknown << "<-" << "00:00:01:00";
-    QTest::newRow("rate 0 gives no text") << 0.0f << 100LL << "->" << "";
+    QTest::newRow("29.97 frame 1799") << 29.97f << 1799LL << "<->"
+                                      << "00;00;59;29";
+    QTest::newRow("29.97 frame 1800 skips two labels") << 29.97f << 1800LL << "<->"
+                                                       << "00;01;00;02";
+    QTest::newRow("29.97 00:01:00;00 does not exist, reads 1798") << 29.97f << 1798LL << "<-"
+                                                                  << "00:01:00;00";
+    QTest::newRow("29.97 tenth minute keeps its labels") << 29.97f << 17982LL << "<->"
+                                                         << "00;10;00;00";
+    QTest::newRow("29.97 minute 11") << 29.97f << 19782LL << "<->"
+                                     << "00;11;00;02";
+    QTest::newRow("29.97 one hour") << 29.97f << 107892LL << "<->"
+                                    << "01;00;00;00";
+    QTest::newRow("29.97 frame -1 is the end of the day before") << 29.97f << -1LL << "->"
+                                                                 << "23;59;59;29";
+    QTest::newRow("23.98 drops by the same rule") << 23.98f << 1440LL << "<->"
+                                                  << "00;01;00;02";
+    QTest::newRow("24 two days later") << 24.0f << 2LL * 24 * 86400 + 24 << "->"
+                                       << "00:00:01:00";
+    QTest::newRow("separators are not looked at") << 25.0f << 93079LL << "<-"
+                                                  << "01x02.03-04";
+    QTest::newRow("negative rate counts by its size") << -25.0f << 25LL << "<->"
+                                                      << "00:00:01:00";
+    QTest::newRow("odd rate is cut to an integer") << 12.9f << 25LL << "<->"
+                                                   << "00:00:02:01";
+    QTest::newRow("minus sign") << 25.0f << -90000LL << "<-"
+                                << "-1:00:00:00";
+    QTest::newRow("10 characters") << 25.0f << unknown << "<-"
+                                   << "1:02:03:04";
+    QTest::newRow("rate 0 reads no frame") << 0.0f << unknown << "<-"
+                                           << "00:00:01:00";
+    QTest::newRow("rate 0 gives no text") << 0.0f << 100LL << "->"
+                                          << "";
 }
 
 void tst_FrameCount::timecode()
@@ -142,8 +157,8 @@ void tst_FrameCount::pulldown()
     QFETCH(QString, video);
 
     if (phase < 1 || phase > 4)
-        QTest::ignoreMessage(QtDebugMsg, qPrintable(QStringLiteral(
-            "FrameCount::timecodeFromFrameCount wrong pulldown phase value: %1").arg(phase)));
+        QTest::ignoreMessage(QtDebugMsg,
+            qPrintable(QStringLiteral("FrameCount::timecodeFromFrameCount wrong pulldown phase value: %1").arg(phase)));
     QCOMPARE(clockOf(FrameCount(filmFrame, fps), false, offset, true, phase), video);
 }
 
@@ -178,11 +193,13 @@ void tst_FrameCount::pulldownPhaseRoundTrip()
             continue; // that carry can land on a skipped minute label
         int odd = 99;
         const FipTime back = count.frameCountFromTimecode(h, m, s, f, true, phase, &odd);
-        const bool jump = !drop && previousVideo >= 0
-            && (video - previousVideo < 1 || video - previousVideo > 2);
+        const bool jump = !drop && previousVideo >= 0 && (video - previousVideo < 1 || video - previousVideo > 2);
         if (back != (wrapRow ? film + 1 : film) || odd != (wrapRow ? -1 : 0) || jump)
             QFAIL(qPrintable(QStringLiteral("film %1 gives %2, back %3 odd %4")
-                                 .arg(film).arg(clockOf(count, false, 0, true, phase)).arg(back).arg(odd)));
+                                 .arg(film)
+                                 .arg(clockOf(count, false, 0, true, phase))
+                                 .arg(back)
+                                 .arg(odd)));
         previousVideo = video;
     }
     // Inside the second the two-field frames give the half-frame bit.

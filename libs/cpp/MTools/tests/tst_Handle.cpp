@@ -9,7 +9,11 @@ namespace {
 // Counts how many of its kind are alive, so that the tests see deletes.
 struct Tracked
 {
-    explicit Tracked(int value) : value(value) { ++alive; }
+    explicit Tracked(int value)
+        : value(value)
+    {
+        ++alive;
+    }
     ~Tracked() { --alive; }
     int value;
     static int alive;

@@ -17,8 +17,8 @@ inline bool hasAudioOutput()
 }
 
 // Writes a 16-bit sine at half scale, the same in every channel; true on success.
-inline bool writeSineWave(const QString& path, double seconds, double frequency = 440.0, int rate = 44100,
-                          int channels = 1)
+inline bool writeSineWave(
+    const QString& path, double seconds, double frequency = 440.0, int rate = 44100, int channels = 1)
 {
     const quint32 frames = static_cast<quint32>(std::lround(seconds * rate));
     const quint32 frameBytes = 2 * static_cast<quint32>(channels);

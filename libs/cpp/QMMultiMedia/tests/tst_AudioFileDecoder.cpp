@@ -39,15 +39,20 @@ void tst_AudioFileDecoder::decode_data()
     QTest::addColumn<qint64>("maxFrames"); // 0: the file is refused
 
     const QByteArray sample = readAll(QStringLiteral(QM_BUNDLE_RESOURCES_DIR "/guitar_440_A4.mp3"));
-    QTest::newRow("stereo 48 kHz, half a second") << "a.wav" << wave(0.5, 48000, 2) << 48000 << 2 << qint64(24000) << qint64(24000);
-    QTest::newRow("mono 22.05 kHz, one sample") << "b.wav" << wave(1.0 / 22050, 22050, 1) << 22050 << 1 << qint64(1) << qint64(1);
-    QTest::newRow("cut mp3 decodes what is there") << "cut.mp3" << sample.left(sample.size() / 2) << 44100 << 1
-                                                   << qint64(1) << qint64(79379);
+    QTest::newRow("stereo 48 kHz, half a second")
+        << "a.wav" << wave(0.5, 48000, 2) << 48000 << 2 << qint64(24000) << qint64(24000);
+    QTest::newRow("mono 22.05 kHz, one sample")
+        << "b.wav" << wave(1.0 / 22050, 22050, 1) << 22050 << 1 << qint64(1) << qint64(1);
+    QTest::newRow("cut mp3 decodes what is there")
+        << "cut.mp3" << sample.left(sample.size() / 2) << 44100 << 1 << qint64(1) << qint64(79379);
     QTest::newRow("empty mp3") << "empty.mp3" << QByteArray() << 0 << 0 << qint64(0) << qint64(0);
-    QTest::newRow("wave header without samples") << "header.wav" << QByteArray::fromHex(
-        "52494646240000005741564566666d7420100000000100010044ac000088580100020010006461746100000000")
-                                                 << 0 << 0 << qint64(0) << qint64(0);
-    QTest::newRow("text named mp3") << "text.mp3" << QByteArray("ID3 but nothing else\n") << 0 << 0 << qint64(0) << qint64(0);
+    QTest::newRow("wave header without samples")
+        << "header.wav"
+        << QByteArray::fromHex(
+               "52494646240000005741564566666d7420100000000100010044ac000088580100020010006461746100000000")
+        << 0 << 0 << qint64(0) << qint64(0);
+    QTest::newRow("text named mp3") << "text.mp3" << QByteArray("ID3 but nothing else\n") << 0 << 0 << qint64(0)
+                                    << qint64(0);
 }
 
 void tst_AudioFileDecoder::decode()

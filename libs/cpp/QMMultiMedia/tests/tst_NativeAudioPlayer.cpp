@@ -32,7 +32,7 @@ private:
         QVERIFY(player.isPlaying());
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, int(rest) + 2000);
         QVERIFY2(clock.elapsed() >= rest - 50 && clock.elapsed() <= rest + 600,
-                 qPrintable(QStringLiteral("rest %1 ms, finished after %2 ms").arg(rest).arg(clock.elapsed())));
+            qPrintable(QStringLiteral("rest %1 ms, finished after %2 ms").arg(rest).arg(clock.elapsed())));
     }
 
     QTemporaryDir m_dir;

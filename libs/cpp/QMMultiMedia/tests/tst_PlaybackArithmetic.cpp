@@ -70,14 +70,20 @@ void tst_PlaybackArithmetic::mixing_data()
 
     const QVector<float> mono { 0.5f, -0.25f };
     const QVector<float> stereo { 0.5f, -0.5f, 0.25f, 1.0f };
-    QTest::newRow("mono centred on both sides") << 0.0f << 1.0f << 1 << mono << QVector<int> { 16384, 16384, -8192, -8192 };
-    QTest::newRow("mono full left silences the right") << -1.0f << 1.0f << 1 << mono << QVector<int> { 16384, 0, -8192, 0 };
-    QTest::newRow("mono half right halves the left") << 0.5f << 1.0f << 1 << mono << QVector<int> { 8192, 16384, -4096, -8192 };
-    QTest::newRow("beyond the left end acts as full left") << -3.0f << 1.0f << 1 << mono << QVector<int> { 16384, 0, -8192, 0 };
-    QTest::newRow("stereo full left silences the right") << -1.0f << 1.0f << 2 << stereo << QVector<int> { 16384, 0, 8192, 0 };
-    QTest::newRow("four channels use the first two") << 0.0f << 1.0f << 4 << QVector<float> { 0.5f, 0.25f, 1.0f, 1.0f }
-                                                     << QVector<int> { 16384, 8192 };
-    QTest::newRow("over full scale clips") << 0.0f << 1.0f << 2 << QVector<float> { 1.7f, -1.7f } << QVector<int> { 32767, -32768 };
+    QTest::newRow("mono centred on both sides")
+        << 0.0f << 1.0f << 1 << mono << QVector<int> { 16384, 16384, -8192, -8192 };
+    QTest::newRow("mono full left silences the right")
+        << -1.0f << 1.0f << 1 << mono << QVector<int> { 16384, 0, -8192, 0 };
+    QTest::newRow("mono half right halves the left")
+        << 0.5f << 1.0f << 1 << mono << QVector<int> { 8192, 16384, -4096, -8192 };
+    QTest::newRow("beyond the left end acts as full left")
+        << -3.0f << 1.0f << 1 << mono << QVector<int> { 16384, 0, -8192, 0 };
+    QTest::newRow("stereo full left silences the right")
+        << -1.0f << 1.0f << 2 << stereo << QVector<int> { 16384, 0, 8192, 0 };
+    QTest::newRow("four channels use the first two")
+        << 0.0f << 1.0f << 4 << QVector<float> { 0.5f, 0.25f, 1.0f, 1.0f } << QVector<int> { 16384, 8192 };
+    QTest::newRow("over full scale clips")
+        << 0.0f << 1.0f << 2 << QVector<float> { 1.7f, -1.7f } << QVector<int> { 32767, -32768 };
     QTest::newRow("volume one percent") << 0.0f << 0.01f << 1 << QVector<float> { 1.0f } << QVector<int> { 328, 328 };
     QTest::newRow("volume zero is silent") << 0.0f << 0.0f << 1 << QVector<float> { 0.9f } << QVector<int> { 0, 0 };
 }
@@ -95,7 +101,7 @@ void tst_PlaybackArithmetic::mixing()
     PlaybackArithmetic::mixToStereo16(source.constData(), channels, frames, volume, pan, target.data());
     for (int i = 0; i < expected.size(); ++i)
         QVERIFY2(qAbs(target.at(i) - expected.at(i)) <= 1,
-                 qPrintable(QStringLiteral("sample %1: %2 instead of %3").arg(i).arg(target.at(i)).arg(expected.at(i))));
+            qPrintable(QStringLiteral("sample %1: %2 instead of %3").arg(i).arg(target.at(i)).arg(expected.at(i))));
 }
 
 void tst_PlaybackArithmetic::milliseconds_data()

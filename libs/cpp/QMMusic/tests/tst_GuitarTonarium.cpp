@@ -24,7 +24,7 @@ using QMMusic::NotesTrainerWidget;
 using QMMusic::NotesWidget;
 using QMWidgets::MMessageBox;
 
-using Report = QMap<QString, QPair<int, int> >;
+using Report = QMap<QString, QPair<int, int>>;
 
 namespace {
 
@@ -51,12 +51,12 @@ QPushButton* buttonWithText(const QWidget* parent, const QString& text)
 
 void hover(QWidget* widget, const QPoint& point)
 {
-    QMouseEvent move(QEvent::MouseMove, point, widget->mapToGlobal(point), Qt::NoButton, Qt::NoButton,
-                     Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, point, widget->mapToGlobal(point), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(widget, &move);
 }
 
-struct Page {
+struct Page
+{
     GuitarTonarium tonarium;
     DecoratedNotesWidget* decorated = tonarium.decoratedNotesWidget();
     GuitarBoard* board = tonarium.guitarBoard();
@@ -121,7 +121,7 @@ QString wrongKeyFor(const QString& note, int accidental)
 // and whether it says that it has no data.
 struct ShownReport
 {
-    QList<QPair<int, int> > bars;
+    QList<QPair<int, int>> bars;
     bool noDataText = false;
 };
 
@@ -202,9 +202,15 @@ void TestGuitarTonarium::boardPressReachesStaffThenTrainer_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("accidental");
 
-    QTest::newRow("A2 after A2 sharp") << "A2#" << "A2" << "A2" << 0;
-    QTest::newRow("A2 sharp after A2") << "A2" << "A2#" << "A2" << 1;
-    QTest::newRow("F3 sharp after E4") << "E4" << "F3#" << "F3" << 1;
+    QTest::newRow("A2 after A2 sharp") << "A2#"
+                                       << "A2"
+                                       << "A2" << 0;
+    QTest::newRow("A2 sharp after A2") << "A2"
+                                       << "A2#"
+                                       << "A2" << 1;
+    QTest::newRow("F3 sharp after E4") << "E4"
+                                       << "F3#"
+                                       << "F3" << 1;
 }
 
 void TestGuitarTonarium::boardPressReachesStaffThenTrainer()

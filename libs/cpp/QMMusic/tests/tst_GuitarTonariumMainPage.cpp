@@ -59,8 +59,7 @@ private slots:
         page.addShopMenu();
         QVERIFY(qobject_cast<GuitarShop*>(page.shop()));
         QCOMPARE(entries(page.promoMenuBar()->shopMenu()),
-                 (QStringList{ "Own product", "-", "Must Have", "Nice to Have", "Read", "Hear", "See", "-",
-                               "Wikipedia" }));
+            (QStringList { "Own product", "-", "Must Have", "Nice to Have", "Read", "Hear", "See", "-", "Wikipedia" }));
     }
 
     void entryOpensItsShelf_data()
@@ -83,14 +82,14 @@ private slots:
         GuitarTonariumMainPage page;
         page.addShopMenu();
         const MusicShopBase* shop = page.shop();
-        const QStringList links{ shop->mustHave(), shop->niceToHave(), shop->read(),
-                                 shop->hear(),     shop->see(),        shop->wikipedia() };
+        const QStringList links { shop->mustHave(), shop->niceToHave(), shop->read(), shop->hear(), shop->see(),
+            shop->wikipedia() };
         m_catcher.urls.clear();
         for (QAction* action : page.promoMenuBar()->shopMenu()->actions()) {
             if (action->text() == entry)
                 action->trigger();
         }
-        QCOMPARE(m_catcher.urls, QStringList{ links.at(link) });
+        QCOMPARE(m_catcher.urls, QStringList { links.at(link) });
     }
 };
 

@@ -60,28 +60,28 @@ private slots:
 
         // An empty article: not checked in that row.
         QTest::newRow("guitar, Austria: German store, must have 8, hear 12")
-            << "Guitar" << QLocale::Austria << de << QList<int>{ 8, 9, 10, 12, 13 }
+            << "Guitar" << QLocale::Austria << de << QList<int> { 8, 9, 10, 12, 13 }
             << "http://de.wikipedia.org/wiki/Gitarre";
-        QTest::newRow("guitar, United States") << "Guitar" << QLocale::UnitedStates << us
-                                               << QList<int>{ 8, 9, 10, 11, 12 } << "";
-        QTest::newRow("guitar, country without a row") << "Guitar" << QLocale::Japan << us
-                                                       << QList<int>{ 8, 9, 10, 11, 12 }
-                                                       << "http://en.wikipedia.org/wiki/Guitar";
-        QTest::newRow("guitar, Canada: English article") << "Guitar" << QLocale::Canada << ca
-                                                         << QList<int>{ 6, 7, 8, 9, 10 }
-                                                         << "http://en.wikipedia.org/wiki/Guitar";
+        QTest::newRow("guitar, United States")
+            << "Guitar" << QLocale::UnitedStates << us << QList<int> { 8, 9, 10, 11, 12 } << "";
+        QTest::newRow("guitar, country without a row")
+            << "Guitar" << QLocale::Japan << us << QList<int> { 8, 9, 10, 11, 12 }
+            << "http://en.wikipedia.org/wiki/Guitar";
+        QTest::newRow("guitar, Canada: English article")
+            << "Guitar" << QLocale::Canada << ca << QList<int> { 6, 7, 8, 9, 10 }
+            << "http://en.wikipedia.org/wiki/Guitar";
         QTest::newRow("ukulele, France: French article, accents kept")
-            << "Ukulele" << QLocale::France << fr << QList<int>{ 31, 32, 33, 34, 36 }
+            << "Ukulele" << QLocale::France << fr << QList<int> { 31, 32, 33, 34, 36 }
             << QString::fromUtf8("http://fr.wikipedia.org/wiki/Ukulélé");
-        QTest::newRow("ukulele, United Kingdom") << "Ukulele" << QLocale::UnitedKingdom << uk
-                                                 << QList<int>{ 32, 33, 34, 35, 36 } << "";
-        QTest::newRow("bass, default with its gap") << "Bass" << QLocale::Brazil << us
-                                                    << QList<int>{ 19, 20, 21, 23, 24 } << "";
+        QTest::newRow("ukulele, United Kingdom")
+            << "Ukulele" << QLocale::UnitedKingdom << uk << QList<int> { 32, 33, 34, 35, 36 } << "";
+        QTest::newRow("bass, default with its gap")
+            << "Bass" << QLocale::Brazil << us << QList<int> { 19, 20, 21, 23, 24 } << "";
         QTest::newRow("balalaika, German store swaps read and hear")
-            << "Balalaika" << QLocale::Germany << de << QList<int>{ 30, 31, 33, 32, 34 } << "";
-        QTest::newRow("mandolin, United Kingdom") << "Mandolin" << QLocale::UnitedKingdom << uk
-                                                  << QList<int>{ 11, 13, 14, 15, 16 } << "";
-        QTest::newRow("violin, default") << "Violin" << QLocale::AnyCountry << us << QList<int>{ 1, 3, 4, 5, 7 }
+            << "Balalaika" << QLocale::Germany << de << QList<int> { 30, 31, 33, 32, 34 } << "";
+        QTest::newRow("mandolin, United Kingdom")
+            << "Mandolin" << QLocale::UnitedKingdom << uk << QList<int> { 11, 13, 14, 15, 16 } << "";
+        QTest::newRow("violin, default") << "Violin" << QLocale::AnyCountry << us << QList<int> { 1, 3, 4, 5, 7 }
                                          << "http://en.wikipedia.org/wiki/Violin";
     }
 
@@ -94,7 +94,7 @@ private slots:
         QFETCH(QString, wikipedia);
 
         const std::unique_ptr<MusicShopBase> shop = makeShop(instrument, country);
-        const QStringList links{ shop->mustHave(), shop->niceToHave(), shop->read(), shop->hear(), shop->see() };
+        const QStringList links { shop->mustHave(), shop->niceToHave(), shop->read(), shop->hear(), shop->see() };
         QStringList expected;
         for (int shelf : shelves)
             expected.append(TestMusicShop::store(store, shelf));

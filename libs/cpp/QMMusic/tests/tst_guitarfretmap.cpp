@@ -45,8 +45,8 @@ void TestGuitarFretMap::everyBoxCentreGivesItsNote_data()
             const int fret = column == 23 ? 0 : column;
             const QString row = column == 23 ? QStringLiteral("string %1 far end").arg(string)
                                              : QStringLiteral("string %1 fret %2").arg(string).arg(column);
-            QTest::newRow(qPrintable(row)) << GuitarFretMap::centre(string, column)
-                                           << positionAbove(open[string - 1] + fret);
+            QTest::newRow(qPrintable(row))
+                << GuitarFretMap::centre(string, column) << positionAbove(open[string - 1] + fret);
         }
     }
 }

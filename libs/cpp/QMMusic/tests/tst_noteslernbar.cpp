@@ -9,7 +9,12 @@ using QMMusic::NotesLernBar;
 
 namespace {
 
-enum class Tint { Green, Red, Other };
+enum class Tint
+{
+    Green,
+    Red,
+    Other
+};
 
 Tint tintOf(QRgb pixel)
 {
@@ -132,9 +137,7 @@ void tst_NotesLernBar::renderedBar()
     QCOMPARE(image.width(), width);
 
     for (int x = 0; x < width; ++x) {
-        const Tint expected = x < greenColumns ? Tint::Green
-            : x < greenColumns + redColumns    ? Tint::Red
-                                               : Tint::Other;
+        const Tint expected = x < greenColumns ? Tint::Green : x < greenColumns + redColumns ? Tint::Red : Tint::Other;
         if (tintOf(image.pixel(x, 2)) != expected)
             QFAIL(qPrintable(QStringLiteral("column %1 has the wrong colour").arg(x)));
     }

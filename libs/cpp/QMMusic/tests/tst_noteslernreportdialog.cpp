@@ -9,7 +9,7 @@
 using QMMusic::NotesLernBar;
 using QMMusic::NotesLernReportDialog;
 
-using Report = QMap<QString, QPair<int, int> >;
+using Report = QMap<QString, QPair<int, int>>;
 
 namespace {
 
@@ -75,9 +75,9 @@ void tst_NotesLernReportDialog::rows_data()
     // Filled in a played order; shown in the string order of the keys, each
     // entry in a grid of its own at that grid's row n.
     const Report several { { "G#", { 1, 0 } }, { "C", { 2, 1 } }, { "A#", { 0, 2 } }, { "A", { 4, 4 } } };
-    QTest::newRow("rows in the map's order")
-        << several
-        << QStringList { row(0, "A", 4, 4), "-", row(1, "A#", 0, 2), "-", row(2, "C", 2, 1), "-", row(3, "G#", 1, 0), "-" };
+    QTest::newRow("rows in the map's order") << several
+                                             << QStringList { row(0, "A", 4, 4), "-", row(1, "A#", 0, 2), "-",
+                                                    row(2, "C", 2, 1), "-", row(3, "G#", 1, 0), "-" };
 }
 
 void tst_NotesLernReportDialog::rows()

@@ -4,8 +4,8 @@
 
 using QMMusic::NotesLernStatistic;
 
-using Report = QMap<QString, QPair<int, int> >;
-using Additions = QList<QPair<QString, QPair<int, int> > >;
+using Report = QMap<QString, QPair<int, int>>;
+using Additions = QList<QPair<QString, QPair<int, int>>>;
 
 class tst_NotesLernStatistic : public QObject
 {
@@ -21,13 +21,12 @@ void tst_NotesLernStatistic::addToReport_data()
     QTest::addColumn<Additions>("additions");
     QTest::addColumn<Report>("report");
 
-    QTest::newRow("same key adds up")
-        << Additions { { "E", { 1, 0 } }, { "E", { 0, 1 } }, { "E", { 0, 1 } } } << Report { { "E", { 1, 2 } } };
-    QTest::newRow("keys kept apart")
-        << Additions { { "F", { 0, 1 } }, { "F#", { 1, 0 } }, { "F", { 1, 0 } } }
-        << Report { { "F", { 1, 1 } }, { "F#", { 1, 0 } } };
-    QTest::newRow("pairs larger than one") << Additions { { "A", { 2, 3 } }, { "A", { 4, 5 } } }
-                                           << Report { { "A", { 6, 8 } } };
+    QTest::newRow("same key adds up") << Additions { { "E", { 1, 0 } }, { "E", { 0, 1 } }, { "E", { 0, 1 } } }
+                                      << Report { { "E", { 1, 2 } } };
+    QTest::newRow("keys kept apart") << Additions { { "F", { 0, 1 } }, { "F#", { 1, 0 } }, { "F", { 1, 0 } } }
+                                     << Report { { "F", { 1, 1 } }, { "F#", { 1, 0 } } };
+    QTest::newRow("pairs larger than one")
+        << Additions { { "A", { 2, 3 } }, { "A", { 4, 5 } } } << Report { { "A", { 6, 8 } } };
 }
 
 void tst_NotesLernStatistic::addToReport()

@@ -50,10 +50,14 @@ void TestNoteSpelling::positionName_data()
     QTest::addColumn<int>("accidental");
     QTest::addColumn<QString>("stem");
 
-    QTest::newRow("natural") << "E2" << "E2" << 0 << "E2";
-    QTest::newRow("sharp") << "F2#" << "F2" << 1 << "Fd2";
-    QTest::newRow("sharp in octave 0") << "A0#" << "A0" << 1 << "Ad0";
-    QTest::newRow("empty") << "" << "" << 0 << "";
+    QTest::newRow("natural") << "E2"
+                             << "E2" << 0 << "E2";
+    QTest::newRow("sharp") << "F2#"
+                           << "F2" << 1 << "Fd2";
+    QTest::newRow("sharp in octave 0") << "A0#"
+                                       << "A0" << 1 << "Ad0";
+    QTest::newRow("empty") << ""
+                           << "" << 0 << "";
 }
 
 void TestNoteSpelling::positionName()

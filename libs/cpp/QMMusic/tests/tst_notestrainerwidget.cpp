@@ -10,7 +10,7 @@
 
 using QMMusic::NotesTrainerWidget;
 
-using Report = QMap<QString, QPair<int, int> >;
+using Report = QMap<QString, QPair<int, int>>;
 
 namespace {
 
@@ -33,7 +33,7 @@ QString clockLabelText(const NotesTrainerWidget& trainer)
 class ScriptedBoard : public QObject
 {
 public:
-    ScriptedBoard(NotesTrainerWidget& trainer, const QList<QPair<QString, int> >& notes)
+    ScriptedBoard(NotesTrainerWidget& trainer, const QList<QPair<QString, int>>& notes)
         : m_trainer(trainer)
         , m_notes(notes)
     {
@@ -48,12 +48,12 @@ public:
         });
     }
 
-    QList<QPair<int, int> > m_countsAtRequest;
+    QList<QPair<int, int>> m_countsAtRequest;
     QList<Report> m_reportAtRequest;
 
 private:
     NotesTrainerWidget& m_trainer;
-    QList<QPair<QString, int> > m_notes;
+    QList<QPair<QString, int>> m_notes;
     int m_next = 0;
 };
 
@@ -89,24 +89,42 @@ void tst_NotesTrainerWidget::isRightAnswer_data()
     QTest::addColumn<int>("accidental");
     QTest::addColumn<bool>("right");
 
-    QTest::newRow("C natural on C") << "C" << "C4" << 0 << true;
-    QTest::newRow("C sharp is not C") << "C" << "C4" << 1 << false;
-    QTest::newRow("B sharp on C") << "C" << "B3" << 1 << true;
-    QTest::newRow("B sharp not on B") << "B" << "B3" << 1 << false;
-    QTest::newRow("C flat on B") << "B" << "C4" << -1 << true;
-    QTest::newRow("E sharp on F") << "F" << "E4" << 1 << true;
-    QTest::newRow("F flat on E") << "E" << "F4" << -1 << true;
-    QTest::newRow("D flat on C#") << "C#" << "D3" << -1 << true;
-    QTest::newRow("D sharp on D#") << "D#" << "D2" << 1 << true;
-    QTest::newRow("G flat on F#") << "F#" << "G2" << -1 << true;
-    QTest::newRow("A flat on G#") << "G#" << "A5" << -1 << true;
-    QTest::newRow("B flat on A#") << "A#" << "B2" << -1 << true;
-    QTest::newRow("D has no other spelling") << "D" << "C4" << 2 << false;
-    QTest::newRow("wrong letter") << "D" << "E3" << 0 << false;
-    QTest::newRow("letter compared case-sensitively") << "C" << "c4" << 0 << false;
-    QTest::newRow("no note asked yet") << "C" << "" << 0 << false;
-    QTest::newRow("any positive accidental is sharp") << "F#" << "F2" << 2 << true;
-    QTest::newRow("unknown key") << "H" << "H2" << 0 << false;
+    QTest::newRow("C natural on C") << "C"
+                                    << "C4" << 0 << true;
+    QTest::newRow("C sharp is not C") << "C"
+                                      << "C4" << 1 << false;
+    QTest::newRow("B sharp on C") << "C"
+                                  << "B3" << 1 << true;
+    QTest::newRow("B sharp not on B") << "B"
+                                      << "B3" << 1 << false;
+    QTest::newRow("C flat on B") << "B"
+                                 << "C4" << -1 << true;
+    QTest::newRow("E sharp on F") << "F"
+                                  << "E4" << 1 << true;
+    QTest::newRow("F flat on E") << "E"
+                                 << "F4" << -1 << true;
+    QTest::newRow("D flat on C#") << "C#"
+                                  << "D3" << -1 << true;
+    QTest::newRow("D sharp on D#") << "D#"
+                                   << "D2" << 1 << true;
+    QTest::newRow("G flat on F#") << "F#"
+                                  << "G2" << -1 << true;
+    QTest::newRow("A flat on G#") << "G#"
+                                  << "A5" << -1 << true;
+    QTest::newRow("B flat on A#") << "A#"
+                                  << "B2" << -1 << true;
+    QTest::newRow("D has no other spelling") << "D"
+                                             << "C4" << 2 << false;
+    QTest::newRow("wrong letter") << "D"
+                                  << "E3" << 0 << false;
+    QTest::newRow("letter compared case-sensitively") << "C"
+                                                      << "c4" << 0 << false;
+    QTest::newRow("no note asked yet") << "C"
+                                       << "" << 0 << false;
+    QTest::newRow("any positive accidental is sharp") << "F#"
+                                                      << "F2" << 2 << true;
+    QTest::newRow("unknown key") << "H"
+                                 << "H2" << 0 << false;
 }
 
 void tst_NotesTrainerWidget::isRightAnswer()
@@ -136,9 +154,9 @@ void tst_NotesTrainerWidget::idleAtConstruction()
         QVERIFY(!key->isEnabled());
         if (i > 0)
             QVERIFY2(key->geometry().center().x() > trainer.keyButton(chromatic.at(i - 1))->geometry().center().x(),
-                     qPrintable(chromatic.at(i)));
+                qPrintable(chromatic.at(i)));
         QVERIFY2(chromatic.at(i).endsWith(QLatin1Char('#')) ? key->y() < whiteRow : key->y() == whiteRow,
-                 qPrintable(chromatic.at(i)));
+            qPrintable(chromatic.at(i)));
     }
 }
 

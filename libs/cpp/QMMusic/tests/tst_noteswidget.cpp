@@ -36,9 +36,12 @@ void configure(NotesWidget& widget, const QString& instrument)
 {
     // Each instrument's staff as its page sets it up; the piano keeps the defaults.
     static const QMap<QString, StaffSettings> settings {
-        { "guitar", { 8, 22, 5, 1.3f, false, false } },     { "ukulele", { 8, 16, 6, 1.6f, true, false } },
-        { "violin", { 8, 17, 6, 1.55f, true, false } },     { "bass", { 15, 25, 12, 1.94f, false, true } },
-        { "balalaika", { 7, 15, 6, 1.53f, true, false } }, { "banjo", { 8, 19, 5, 1.42f, true, false } },
+        { "guitar", { 8, 22, 5, 1.3f, false, false } },
+        { "ukulele", { 8, 16, 6, 1.6f, true, false } },
+        { "violin", { 8, 17, 6, 1.55f, true, false } },
+        { "bass", { 15, 25, 12, 1.94f, false, true } },
+        { "balalaika", { 7, 15, 6, 1.53f, true, false } },
+        { "banjo", { 8, 19, 5, 1.42f, true, false } },
         { "mandolin", { 6, 17, 5, 1.42f, true, false } },
     };
     const StaffSettings s = settings.value(instrument.toLower(), { 0, 27, 0, 1.0f, false, false });
@@ -144,7 +147,10 @@ void TestNotesWidget::tableRowsSnapBackInAPaint()
             const QString named = spy.isEmpty() ? QString() : spy.last().at(0).toString();
             if (named != row.first)
                 QFAIL(qPrintable(QStringLiteral("%1 at height %2 (row %3) painted as \"%4\"")
-                                     .arg(row.first).arg(height).arg(widget.nameToPos(row.first).y()).arg(named)));
+                                     .arg(row.first)
+                                     .arg(height)
+                                     .arg(widget.nameToPos(row.first).y())
+                                     .arg(named)));
         }
     }
 }
@@ -188,12 +194,13 @@ void TestNotesWidget::hoverThenPress_data()
                                 << "guitar_440_G2.mp3";
     // Line 8 (C6) lies at y 57.4, one line is 19.1 high; D6 in the space
     // above is the last note that is drawn.
-    QTest::newRow("C6 on the first line") << "NaturalSignButton" << 58 << "C6" << labelText("", "C6", "do6")
-                                          << "guitar_440_C6.mp3";
-    QTest::newRow("D6 in the space above") << "NaturalSignButton" << 48 << "D6" << labelText("", "D6", "re6")
-                                           << "guitar_440_D6.mp3";
-    QTest::newRow("a pixel higher is refused and plays a name that no file has")
-        << "NaturalSignButton" << 47 << "" << "" << "guitar_440_.mp3";
+    QTest::newRow("C6 on the first line")
+        << "NaturalSignButton" << 58 << "C6" << labelText("", "C6", "do6") << "guitar_440_C6.mp3";
+    QTest::newRow("D6 in the space above")
+        << "NaturalSignButton" << 48 << "D6" << labelText("", "D6", "re6") << "guitar_440_D6.mp3";
+    QTest::newRow("a pixel higher is refused and plays a name that no file has") << "NaturalSignButton" << 47 << ""
+                                                                                 << ""
+                                                                                 << "guitar_440_.mp3";
 }
 
 // A hover names the note silently; a press on the same place names it again
@@ -205,7 +212,9 @@ void TestNotesWidget::hoverThenPress()
     QFETCH(QString, named);
     QFETCH(QString, label);
     QFETCH(QString, sample);
-    const int accidental = sign.startsWith(QLatin1String("Sharp")) ? 1 : sign.startsWith(QLatin1String("Flat")) ? -1 : 0;
+    const int accidental = sign.startsWith(QLatin1String("Sharp")) ? 1
+        : sign.startsWith(QLatin1String("Flat"))                   ? -1
+                                                                   : 0;
     RecordingNotesWidget widget;
     QVERIFY(showGuitarStaff(widget, QStringLiteral("Guitar")));
     QTest::mouseClick(button(widget, qPrintable(sign)), Qt::LeftButton);
@@ -217,7 +226,7 @@ void TestNotesWidget::hoverThenPress()
     QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(50, y));
     QCOMPARE(widget.played.size(), 1);
     QVERIFY2(widget.played.first().endsWith(QLatin1Char('/') + sample) || widget.played.first() == sample,
-             qPrintable(widget.played.first()));
+        qPrintable(widget.played.first()));
     QCOMPARE(spy.count(), named.isEmpty() ? 0 : 2);
     for (const QList<QVariant>& report : spy)
         QCOMPARE(report, (QList<QVariant> { named, accidental }));
@@ -317,7 +326,8 @@ void TestNotesWidget::signButtonsAreExclusive()
     widget.show();
     QVERIFY(QTest::qWaitForWindowExposed(&widget));
     const QStringList signs { "FlatSignButton", "SharpSignButton", "NaturalSignButton" };
-    for (const QString& clicked : QStringList { "FlatSignButton", "SharpSignButton", "SharpSignButton", "NaturalSignButton" }) {
+    for (const QString& clicked :
+        QStringList { "FlatSignButton", "SharpSignButton", "SharpSignButton", "NaturalSignButton" }) {
         QTest::mouseClick(button(widget, qPrintable(clicked)), Qt::LeftButton);
         for (const QString& sign : signs)
             QCOMPARE(button(widget, qPrintable(sign))->isChecked(), sign == clicked);

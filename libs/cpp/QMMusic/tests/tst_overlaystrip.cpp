@@ -76,8 +76,8 @@ void TestOverlayStrip::findMarkColumn_data()
     QTest::newRow("nothing to the left: walk right") << QList<Mark> { lowerMiddle } << 300 << 590;
     QTest::newRow("right walk also takes the lowest row")
         << QList<Mark> { { QRect(400, 10, 5, 5), kBlue }, { QRect(700, 60, 5, 5), kBlue } } << 200 << 700;
-    QTest::newRow("red alone makes a mark") << QList<Mark> { { QRect(200, 40, 3, 3), qRgba(60, 0, 0, 255) } } << 400
-                                            << 202;
+    QTest::newRow("red alone makes a mark")
+        << QList<Mark> { { QRect(200, 40, 3, 3), qRgba(60, 0, 0, 255) } } << 400 << 202;
     QTest::newRow("green alone is no mark")
         << QList<Mark> { { QRect(200, 40, 3, 3), qRgba(0, 255, 0, 255) } } << 400 << -1;
     QTest::newRow("a mark at column 0 makes the walk go right")
@@ -114,9 +114,8 @@ void TestOverlayStrip::keepStrip()
     QFETCH(int, firstKept);
     QFETCH(int, lastKept);
 
-    const QImage source = overlayWith({ { QRect(90, 10, 21, 21), kBlue },
-                                        { QRect(590, 50, 21, 21), kBlue },
-                                        { QRect(660, 5, 11, 4), kBlue } });
+    const QImage source = overlayWith(
+        { { QRect(90, 10, 21, 21), kBlue }, { QRect(590, 50, 21, 21), kBlue }, { QRect(660, 5, 11, 4), kBlue } });
     QPixmap overlay = QPixmap::fromImage(source);
     // As loaded from an "@2x" file: the strip is still measured in pixels.
     overlay.setDevicePixelRatio(2.0);

@@ -21,12 +21,15 @@ private slots:
         QTest::addColumn<bool>("kidsMode");
         QTest::addColumn<QString>("mustHold");
         QTest::addColumn<QString>("mustNotHold");
-        QTest::newRow("day first with dots")
-            << QDate(2014, 8, 1) << false << "GuitarTonarium v1.2 Build: 01.08.2014" << "8/1/2014";
-        QTest::newRow("year of the rights") << QDate(2016, 12, 24) << false << "2016 CORVANE" << "";
+        QTest::newRow("day first with dots") << QDate(2014, 8, 1) << false << "GuitarTonarium v1.2 Build: 01.08.2014"
+                                             << "8/1/2014";
+        QTest::newRow("year of the rights") << QDate(2016, 12, 24) << false << "2016 CORVANE"
+                                            << "";
         QTest::newRow("home page linked")
-            << QDate(2014, 8, 1) << false << "HREF=\"https://www.corvane.com\">corvane.com</A><BR>" << "";
-        QTest::newRow("kids mode: domain without link") << QDate(2014, 8, 1) << true << "corvane.com<BR>" << "<A ";
+            << QDate(2014, 8, 1) << false << "HREF=\"https://www.corvane.com\">corvane.com</A><BR>"
+            << "";
+        QTest::newRow("kids mode: domain without link") << QDate(2014, 8, 1) << true << "corvane.com<BR>"
+                                                        << "<A ";
     }
 
     void infoText()

@@ -111,8 +111,8 @@ private slots:
     {
         QTest::addColumn<DirectoryFunction>("directory");
         QTest::addColumn<QString>("relative");
-        QTest::newRow("support")
-            << DirectoryFunction(&App::supportDirectory) << "/Library/Application Support/TonariumTest/";
+        QTest::newRow("support") << DirectoryFunction(&App::supportDirectory)
+                                 << "/Library/Application Support/TonariumTest/";
         QTest::newRow("work") << DirectoryFunction(&App::workDirectory) << "/Library/TonariumTest/";
         QTest::newRow("caches") << DirectoryFunction(&App::cachesDirectory) << "/Library/Caches/TonariumTest/";
         QTest::newRow("pictures") << DirectoryFunction(&App::picturesDirectory) << "/Pictures/TonariumTest/";
@@ -190,7 +190,8 @@ private slots:
         QTest::addColumn<QString>("resources");
         QTest::newRow("mac bundle") << "/Applications/GuitarTonarium.app/Contents/MacOS"
                                     << "/Applications/GuitarTonarium.app/Contents/Resources/";
-        QTest::newRow("linux build") << "/work/build/bin" << "/work/build/bin/Resources/";
+        QTest::newRow("linux build") << "/work/build/bin"
+                                     << "/work/build/bin/Resources/";
     }
 
     void bundleResourcePath()
@@ -245,9 +246,12 @@ private slots:
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("suffix");
-        QTest::newRow("en") << "en" << "_en.jpg";
-        QTest::newRow("de") << "de" << "_de.jpg";
-        QTest::newRow("fr has no slides") << "fr" << "_en.jpg";
+        QTest::newRow("en") << "en"
+                            << "_en.jpg";
+        QTest::newRow("de") << "de"
+                            << "_de.jpg";
+        QTest::newRow("fr has no slides") << "fr"
+                                          << "_en.jpg";
     }
 
     void slideLanguage()
@@ -265,9 +269,12 @@ private slots:
         QTest::addColumn<QString>("compilerDate");
         QTest::addColumn<QString>("build");
         QTest::addColumn<QDate>("date");
-        QTest::newRow("single-digit day") << "Aug  1 2014" << "8/1/2014" << QDate(2014, 8, 1);
-        QTest::newRow("december") << "Dec 31 2026" << "12/31/2026" << QDate(2026, 12, 31);
-        QTest::newRow("not a date") << "garbage" << "garbage" << QDate();
+        QTest::newRow("single-digit day") << "Aug  1 2014"
+                                          << "8/1/2014" << QDate(2014, 8, 1);
+        QTest::newRow("december") << "Dec 31 2026"
+                                  << "12/31/2026" << QDate(2026, 12, 31);
+        QTest::newRow("not a date") << "garbage"
+                                    << "garbage" << QDate();
     }
 
     void buildFromCompilerDate()
@@ -311,8 +318,10 @@ private slots:
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("pathElement");
-        QTest::newRow("en") << "en" << "";
-        QTest::newRow("de") << "de" << "de/";
+        QTest::newRow("en") << "en"
+                            << "";
+        QTest::newRow("de") << "de"
+                            << "de/";
     }
 
     void currentLanguageOptimized()
@@ -333,10 +342,22 @@ private slots:
         QTest::addColumn<bool>("result");
         QTest::addColumn<QString>("expectedFile");
         QTest::addColumn<QString>("expectedContent");
-        QTest::newRow("new file under a new name") << "fresh" << "copy.txt" << "" << true << "copy.txt" << "fresh";
-        QTest::newRow("empty name keeps the source's") << "fresh" << "" << "" << true << "source.txt" << "fresh";
-        QTest::newRow("existing target is left alone") << "fresh" << "copy.txt" << "old" << true << "copy.txt" << "old";
-        QTest::newRow("missing source") << "" << "copy.txt" << "" << false << "copy.txt" << "";
+        QTest::newRow("new file under a new name") << "fresh"
+                                                   << "copy.txt"
+                                                   << "" << true << "copy.txt"
+                                                   << "fresh";
+        QTest::newRow("empty name keeps the source's") << "fresh"
+                                                       << ""
+                                                       << "" << true << "source.txt"
+                                                       << "fresh";
+        QTest::newRow("existing target is left alone") << "fresh"
+                                                       << "copy.txt"
+                                                       << "old" << true << "copy.txt"
+                                                       << "old";
+        QTest::newRow("missing source") << ""
+                                        << "copy.txt"
+                                        << "" << false << "copy.txt"
+                                        << "";
     }
 
     void copyTo()
@@ -366,10 +387,10 @@ private slots:
         const QString page = QStringLiteral("https://www.corvane.com/apps/tonariumtest/");
         const QString tell = QStringLiteral("mailto:?subject=Check out the cool TonariumTest app!&body=Hi, check out "
                                             "this cool TonariumTest app - available in the App Stores: ");
-        QTest::newRow("rate in the store")
-            << Link(&App::rateAppUrl) << "" << "https://apps.apple.com/app/tonariumtest/id918273645?ls=1&mt=12";
-        QTest::newRow("support page: the maker's site without one")
-            << Link(&App::supportPageUrl) << "" << "https://www.corvane.com";
+        QTest::newRow("rate in the store") << Link(&App::rateAppUrl) << ""
+                                           << "https://apps.apple.com/app/tonariumtest/id918273645?ls=1&mt=12";
+        QTest::newRow("support page: the maker's site without one") << Link(&App::supportPageUrl) << ""
+                                                                    << "https://www.corvane.com";
         QTest::newRow("support page as set") << Link(&App::supportPageUrl) << page << page;
         QTest::newRow("contact mail: version, system and language")
             << Link(&App::contactUsLink) << ""

@@ -26,7 +26,7 @@ QStringList tst_Catalogues::sourceFiles(const QStringList& folders)
     QStringList files;
     for (const QString& folder : folders) {
         QDirIterator it(QStringLiteral(QM_SOURCE_ROOT) + folder, { QStringLiteral("*.cpp"), QStringLiteral("*.h") },
-                        QDir::Files, QDirIterator::Subdirectories);
+            QDir::Files, QDirIterator::Subdirectories);
         while (it.hasNext()) {
             const QString file = it.next();
             if (!file.contains(QStringLiteral("/tests/")))
@@ -101,19 +101,17 @@ void tst_Catalogues::everyTextIsTranslated()
     listFile.close();
 
     QProcess lupdate;
-    lupdate.start(QStringLiteral(QM_LUPDATE), { QStringLiteral("-silent"), QStringLiteral("-locations"),
-                                                QStringLiteral("none"), QLatin1Char('@') + list,
-                                                QStringLiteral("-ts"), ts });
+    lupdate.start(QStringLiteral(QM_LUPDATE),
+        { QStringLiteral("-silent"), QStringLiteral("-locations"), QStringLiteral("none"), QLatin1Char('@') + list,
+            QStringLiteral("-ts"), ts });
     QVERIFY(lupdate.waitForFinished(120000));
     QCOMPARE(lupdate.exitCode(), 0);
 
     int messages = 0;
     const QStringList unfinished = unfinishedTexts(ts, &messages);
     QVERIFY2(unfinished.isEmpty(),
-             qPrintable(QStringLiteral("%1 of %2 texts without translation:\n  ")
-                            .arg(unfinished.size())
-                            .arg(messages)
-                        + unfinished.join(QStringLiteral("\n  "))));
+        qPrintable(QStringLiteral("%1 of %2 texts without translation:\n  ").arg(unfinished.size()).arg(messages)
+            + unfinished.join(QStringLiteral("\n  "))));
 }
 
 QTEST_GUILESS_MAIN(tst_Catalogues)

@@ -63,13 +63,16 @@ private slots:
         QTest::addColumn<QStringList>("buttons");
         QTest::addColumn<QStringList>("entries");
         const QStringList bar { "MoreButton", "Centre", "IntroButton", "ShareButton", "JoinButton", "AppButton" };
-        QTest::newRow("direct build: Check Updates, no rate entry") << false << false << bar
+        QTest::newRow("direct build: Check Updates, no rate entry")
+            << false << false << bar
             << QStringList { "Share", "Join Us", "More Apps", "Contacts Us", "Support Page", "Check Updates", "About",
-                             "-", "Quit" };
-        QTest::newRow("hiding the rate action hides Check Updates") << false << true << bar
+                   "-", "Quit" };
+        QTest::newRow("hiding the rate action hides Check Updates")
+            << false << true << bar
             << QStringList { "Share", "Join Us", "More Apps", "Contacts Us", "Support Page", "About", "-", "Quit" };
-        QTest::newRow("kids mode keeps intro and centre, hides the update check") << true << false
-            << QStringList { "Centre", "IntroButton" } << QStringList { "Contacts Us", "About", "-", "Quit" };
+        QTest::newRow("kids mode keeps intro and centre, hides the update check")
+            << true << false << QStringList { "Centre", "IntroButton" }
+            << QStringList { "Contacts Us", "About", "-", "Quit" };
     }
 
     void barButtonsAndAppMenu()

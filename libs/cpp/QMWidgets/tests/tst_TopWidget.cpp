@@ -23,7 +23,8 @@ private slots:
     {
         QTest::addColumn<Ending>("ending");
         QTest::addColumn<int>("expected");
-        QTest::newRow("escape") << Ending([](TopWidget& window) { window.activateWindow();
+        QTest::newRow("escape") << Ending([](TopWidget& window) {
+            window.activateWindow();
             if (QTest::qWaitForWindowActive(&window))
                 QTest::keyClick(&window, Qt::Key_Escape);
         }) << 0;

@@ -31,10 +31,7 @@ private slots:
     void retranslateRewritesTheKey();
 
 private:
-    static QString storedLanguage()
-    {
-        return App::theApp()->settingsValue(QStringLiteral("Language")).toString();
-    }
+    static QString storedLanguage() { return App::theApp()->settingsValue(QStringLiteral("Language")).toString(); }
 };
 
 void tst_TranslationsManager::firstUseTakesTheSystemLocaleAndStoresIt()
@@ -51,21 +48,36 @@ void tst_TranslationsManager::languageFor_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("language");
-    QTest::newRow("de_DE") << "de_DE" << "de";
-    QTest::newRow("de_AT") << "de_AT" << "de";
-    QTest::newRow("ru_RU") << "ru_RU" << "ru";
-    QTest::newRow("plain fr") << "fr" << "fr";
-    QTest::newRow("pt_BR") << "pt_BR" << "pt";
-    QTest::newRow("hi_IN") << "hi_IN" << "hi";
-    QTest::newRow("ar_EG") << "ar_EG" << "ar";
-    QTest::newRow("es_AR takes the earlier es") << "es_AR" << "es";
-    QTest::newRow("zh_CN") << "zh_CN" << "zh_CN";
-    QTest::newRow("zh_TW is not known") << "zh_TW" << "en";
-    QTest::newRow("zh_HK is not known") << "zh_HK" << "en";
-    QTest::newRow("en_US") << "en_US" << "en";
-    QTest::newRow("case matters") << "DE" << "en";
-    QTest::newRow("unknown code") << "xx" << "en";
-    QTest::newRow("empty") << "" << "en";
+    QTest::newRow("de_DE") << "de_DE"
+                           << "de";
+    QTest::newRow("de_AT") << "de_AT"
+                           << "de";
+    QTest::newRow("ru_RU") << "ru_RU"
+                           << "ru";
+    QTest::newRow("plain fr") << "fr"
+                              << "fr";
+    QTest::newRow("pt_BR") << "pt_BR"
+                           << "pt";
+    QTest::newRow("hi_IN") << "hi_IN"
+                           << "hi";
+    QTest::newRow("ar_EG") << "ar_EG"
+                           << "ar";
+    QTest::newRow("es_AR takes the earlier es") << "es_AR"
+                                                << "es";
+    QTest::newRow("zh_CN") << "zh_CN"
+                           << "zh_CN";
+    QTest::newRow("zh_TW is not known") << "zh_TW"
+                                        << "en";
+    QTest::newRow("zh_HK is not known") << "zh_HK"
+                                        << "en";
+    QTest::newRow("en_US") << "en_US"
+                           << "en";
+    QTest::newRow("case matters") << "DE"
+                                  << "en";
+    QTest::newRow("unknown code") << "xx"
+                                  << "en";
+    QTest::newRow("empty") << ""
+                           << "en";
 }
 
 void tst_TranslationsManager::languageFor()
@@ -79,11 +91,16 @@ void tst_TranslationsManager::initialLanguageFromTheSettings_data()
 {
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("language");
-    QTest::newRow("absent: system de_AT") << "" << "de";
-    QTest::newRow("stored ru") << "ru" << "ru";
-    QTest::newRow("stored xx") << "xx" << "en";
-    QTest::newRow("stored zh_CN") << "zh_CN" << "zh_CN";
-    QTest::newRow("stored zh_HK") << "zh_HK" << "en";
+    QTest::newRow("absent: system de_AT") << ""
+                                          << "de";
+    QTest::newRow("stored ru") << "ru"
+                               << "ru";
+    QTest::newRow("stored xx") << "xx"
+                               << "en";
+    QTest::newRow("stored zh_CN") << "zh_CN"
+                                  << "zh_CN";
+    QTest::newRow("stored zh_HK") << "zh_HK"
+                                  << "en";
 }
 
 void tst_TranslationsManager::initialLanguageFromTheSettings()
@@ -104,11 +121,14 @@ void tst_TranslationsManager::cataloguePaths_data()
     QTest::addColumn<QString>("qt");
     QTest::addColumn<QString>("libs");
     QTest::addColumn<QString>("app");
-    QTest::newRow("no base")
-        << "" << ":/Translations/qt_ru" << "://Translations/libs_ru" << ":/Translations/TonariumTest_ru";
-    QTest::newRow("with base")
-        << "Music" << ":/MusicTranslations/qt_ru" << ":/Music/Translations/libs_ru"
-        << ":/MusicTranslations/TonariumTest_ru";
+    QTest::newRow("no base") << ""
+                             << ":/Translations/qt_ru"
+                             << "://Translations/libs_ru"
+                             << ":/Translations/TonariumTest_ru";
+    QTest::newRow("with base") << "Music"
+                               << ":/MusicTranslations/qt_ru"
+                               << ":/Music/Translations/libs_ru"
+                               << ":/MusicTranslations/TonariumTest_ru";
 }
 
 void tst_TranslationsManager::cataloguePaths()
@@ -121,9 +141,8 @@ void tst_TranslationsManager::cataloguePaths()
     manager->setQtTranslationsBase(base);
     manager->setLibsTranslationsBase(base);
     manager->setAppTranslationsBase(base);
-    const QStringList paths
-        = { manager->qtCatalogue(QStringLiteral("ru")), manager->libsCatalogue(QStringLiteral("ru")),
-            manager->appCatalogue(QStringLiteral("ru")) };
+    const QStringList paths = { manager->qtCatalogue(QStringLiteral("ru")),
+        manager->libsCatalogue(QStringLiteral("ru")), manager->appCatalogue(QStringLiteral("ru")) };
     manager->setQtTranslationsBase(QString());
     manager->setLibsTranslationsBase(QString());
     manager->setAppTranslationsBase(QString());

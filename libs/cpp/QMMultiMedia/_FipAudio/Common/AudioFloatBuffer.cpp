@@ -93,8 +93,7 @@ void AudioFloatBuffer::resize(int frames)
     m_size = size;
 }
 
-void AudioFloatBuffer::copy(MTools::Handle<AudioFloatBuffer> src, unsigned srcFrame,
-                            unsigned dstFrame, unsigned frames)
+void AudioFloatBuffer::copy(MTools::Handle<AudioFloatBuffer> src, unsigned srcFrame, unsigned dstFrame, unsigned frames)
 {
     const AudioFloatBuffer& source = *src;
     Q_ASSERT(!(srcFrame + frames > static_cast<unsigned>(std::max(source.m_frames, 0))));
@@ -102,14 +101,13 @@ void AudioFloatBuffer::copy(MTools::Handle<AudioFloatBuffer> src, unsigned srcFr
     if (!m_data || !source.m_data || srcFrame >= static_cast<unsigned>(source.m_frames)
         || dstFrame >= static_cast<unsigned>(m_frames))
         return;
-    frames = std::min({frames, static_cast<unsigned>(source.m_frames) - srcFrame,
-                       static_cast<unsigned>(m_frames) - dstFrame});
+    frames = std::min(
+        { frames, static_cast<unsigned>(source.m_frames) - srcFrame, static_cast<unsigned>(m_frames) - dstFrame });
 
     if (source.m_frameSize == m_frameSize) {
         // memmove, because source and target may be this buffer.
         std::memmove(m_data + static_cast<size_t>(dstFrame) * m_frameSize,
-                     source.m_data + static_cast<size_t>(srcFrame) * m_frameSize,
-                     sizeof(float) * frames * m_frameSize);
+            source.m_data + static_cast<size_t>(srcFrame) * m_frameSize, sizeof(float) * frames * m_frameSize);
         return;
     }
     const int common = std::min(source.m_frameSize, m_frameSize);
@@ -126,8 +124,7 @@ void AudioFloatBuffer::reverse()
     if (m_frames < 2 || !m_data)
         return;
     for (int front = 0, back = m_frames - 1; front < back; ++front, --back)
-        std::swap_ranges(m_data + front * m_frameSize, m_data + (front + 1) * m_frameSize,
-                         m_data + back * m_frameSize);
+        std::swap_ranges(m_data + front * m_frameSize, m_data + (front + 1) * m_frameSize, m_data + back * m_frameSize);
 }
 
 void AudioFloatBuffer::move(int frames)
@@ -153,8 +150,7 @@ void AudioFloatBuffer::clear()
     std::fill(m_data, m_data + m_size, 0.0f);
 }
 
-void AudioFloatBuffer::convertFloatTo32(const float* src, int* dst, int frames, int srcChannels,
-                                        int dstChannels)
+void AudioFloatBuffer::convertFloatTo32(const float* src, int* dst, int frames, int srcChannels, int dstChannels)
 {
     Q_ASSERT(srcChannels > 0 && dstChannels > 0);
     if (srcChannels < 1 || dstChannels < 1 || frames < 1)
@@ -177,9 +173,8 @@ void AudioFloatBuffer::convertFloatTo32(const float* src, int* dst, int frames, 
     }
 }
 
-MTools::Handle<AudioFloatBuffer> AudioFloatBuffer::convert32ToFloat(const int* src, int frames,
-                                                                    int srcChannels,
-                                                                    int dstChannels)
+MTools::Handle<AudioFloatBuffer> AudioFloatBuffer::convert32ToFloat(
+    const int* src, int frames, int srcChannels, int dstChannels)
 {
     Q_ASSERT(srcChannels > 0 && dstChannels > 0);
     MTools::Handle<AudioFloatBuffer> result(new AudioFloatBuffer(dstChannels, frames));
@@ -189,8 +184,7 @@ MTools::Handle<AudioFloatBuffer> AudioFloatBuffer::convert32ToFloat(const int* s
     const int common = std::min(srcChannels, dstChannels);
     for (int f = 0; f < frames; ++f)
         for (int c = 0; c < common; ++c)
-            out[f * dstChannels + c] = static_cast<float>(src[f * srcChannels + c] >> 16)
-                * (1.0f / 32768.0f);
+            out[f * dstChannels + c] = static_cast<float>(src[f * srcChannels + c] >> 16) * (1.0f / 32768.0f);
     return result;
 }
 

@@ -23,8 +23,7 @@ public:
     void resize(int frames);
     // Copies frames from src; channels that only this buffer has are zeroed, channels
     // that only src has are skipped. An empty src throws MTools::Error("Null handle").
-    void copy(MTools::Handle<AudioFloatBuffer> src, unsigned srcFrame, unsigned dstFrame,
-              unsigned frames);
+    void copy(MTools::Handle<AudioFloatBuffer> src, unsigned srcFrame, unsigned dstFrame, unsigned frames);
     // Swaps frames end for end, channel order inside a frame unchanged.
     void reverse();
     // Shifts by n frames towards the start (n > 0) or the end (n < 0), zeroing what
@@ -33,11 +32,10 @@ public:
     void clear();
 
     // Floats to 16-bit values in the top half of 32-bit words, fitting the channel count.
-    static void convertFloatTo32(const float* src, int* dst, int frames, int srcChannels,
-                                 int dstChannels);
+    static void convertFloatTo32(const float* src, int* dst, int frames, int srcChannels, int dstChannels);
     // The reverse of convertFloatTo32, into a new buffer of dstChannels channels.
-    static MTools::Handle<AudioFloatBuffer> convert32ToFloat(const int* src, int frames,
-                                                             int srcChannels, int dstChannels);
+    static MTools::Handle<AudioFloatBuffer> convert32ToFloat(
+        const int* src, int frames, int srcChannels, int dstChannels);
 
 private:
     int m_frameSize = 0;

@@ -8,8 +8,7 @@ namespace Audio {
 
 // An owned array of samples of type T with its size; copies copy the contents.
 // A size below 1 gives an empty buffer without an array.
-template <class T>
-class Buffer : public AudioIO
+template <class T> class Buffer : public AudioIO
 {
 public:
     explicit Buffer(int size)

@@ -16,8 +16,8 @@ Settings::~Settings() = default;
 
 bool Settings::operator==(const Settings& other) const
 {
-    return m_sampleRate == other.m_sampleRate && m_channels == other.m_channels
-        && m_fmt == other.m_fmt && m_bitsPerSample == other.m_bitsPerSample;
+    return m_sampleRate == other.m_sampleRate && m_channels == other.m_channels && m_fmt == other.m_fmt
+        && m_bitsPerSample == other.m_bitsPerSample;
 }
 
 bool Settings::operator!=(const Settings& other) const
@@ -68,21 +68,36 @@ void Settings::setBitsPerSample(short bitsPerSample)
 QString Settings::formatName(short fmt)
 {
     switch (fmt) {
-    case Query: return QStringLiteral("Query");
-    case MuLaw: return QStringLiteral("Mu-Law");
-    case ALaw: return QStringLiteral("A-Law");
-    case ImaAdpcm: return QStringLiteral("Ima ADPCM");
-    case Unsigned8: return QStringLiteral("Unsigned 8");
-    case LittleEndianSigned16: return QStringLiteral("Little endian signed 16");
-    case BigEndianSigned16: return QStringLiteral("Big endian signed 16");
-    case Signed8: return QStringLiteral("Signed 8");
-    case LittleEndianUnsigned16: return QStringLiteral("Little endian unsigned 16");
-    case BigEndianUnsigned16: return QStringLiteral("Big endian unsigned 16");
-    case Mpeg: return QStringLiteral("MPEG");
-    case Ac3: return QStringLiteral("AC3");
-    case Signed24Normal: return QStringLiteral("Signed 24 Normal");
-    case Signed24Swapped: return QStringLiteral("Signed 24 Swapped");
-    default: return QStringLiteral("Unknown");
+    case Query:
+        return QStringLiteral("Query");
+    case MuLaw:
+        return QStringLiteral("Mu-Law");
+    case ALaw:
+        return QStringLiteral("A-Law");
+    case ImaAdpcm:
+        return QStringLiteral("Ima ADPCM");
+    case Unsigned8:
+        return QStringLiteral("Unsigned 8");
+    case LittleEndianSigned16:
+        return QStringLiteral("Little endian signed 16");
+    case BigEndianSigned16:
+        return QStringLiteral("Big endian signed 16");
+    case Signed8:
+        return QStringLiteral("Signed 8");
+    case LittleEndianUnsigned16:
+        return QStringLiteral("Little endian unsigned 16");
+    case BigEndianUnsigned16:
+        return QStringLiteral("Big endian unsigned 16");
+    case Mpeg:
+        return QStringLiteral("MPEG");
+    case Ac3:
+        return QStringLiteral("AC3");
+    case Signed24Normal:
+        return QStringLiteral("Signed 24 Normal");
+    case Signed24Swapped:
+        return QStringLiteral("Signed 24 Swapped");
+    default:
+        return QStringLiteral("Unknown");
     }
 }
 

@@ -9,7 +9,8 @@ class Settings
 {
 public:
     // Sample formats; each is a single bit.
-    enum Format : short {
+    enum Format : short
+    {
         Query = 0,
         MuLaw = 1,
         ALaw = 2,
@@ -26,8 +27,7 @@ public:
         Signed24Swapped = 4096,
     };
 
-    Settings(unsigned int sampleRate = 0, short channels = 0, short fmt = Query,
-             short bitsPerSample = 0);
+    Settings(unsigned int sampleRate = 0, short channels = 0, short fmt = Query, short bitsPerSample = 0);
     Settings(const Settings& other) = default;
     Settings& operator=(const Settings& other) = default;
     virtual ~Settings();

@@ -34,15 +34,13 @@ inline unsigned char byteOf(const char* p)
     return static_cast<unsigned char>(*p);
 }
 
-template <typename Convert>
-inline void toFloatBackwards(const int* src, float* dst, int n, Convert convert)
+template <typename Convert> inline void toFloatBackwards(const int* src, float* dst, int n, Convert convert)
 {
     for (int i = n - 1; i >= 0; --i)
         dst[i] = convert(src[i]);
 }
 
-template <typename Convert>
-inline void toIntBackwards(const float* src, int* dst, int n, Convert convert)
+template <typename Convert> inline void toIntBackwards(const float* src, int* dst, int n, Convert convert)
 {
     for (int i = n - 1; i >= 0; --i)
         dst[i] = convert(src[i]);
@@ -140,14 +138,12 @@ void Util::convertFloatTo8(const float* src, int* dst, int n)
 
 void Util::convertFloatTo16(const float* src, int* dst, int n)
 {
-    toIntBackwards(src, dst, n,
-                   [](float x) { return scaled(x, 32768.0f, -32767.0f, 32767.0f); });
+    toIntBackwards(src, dst, n, [](float x) { return scaled(x, 32768.0f, -32767.0f, 32767.0f); });
 }
 
 void Util::convertFloatTo24(const float* src, int* dst, int n)
 {
-    toIntBackwards(src, dst, n,
-                   [](float x) { return scaled(x, 8388608.0f, -8388607.0f, 8388607.0f); });
+    toIntBackwards(src, dst, n, [](float x) { return scaled(x, 8388608.0f, -8388607.0f, 8388607.0f); });
 }
 
 void Util::convertFloatToShort16(const float* src, short* dst, int n)
@@ -168,8 +164,7 @@ void Util::convertFloatTo16U(const float* src, int* dst, int n)
 
 void Util::convertFloatTo24U(const float* src, int* dst, int n)
 {
-    toIntBackwards(src, dst, n,
-                   [](float x) { return scaledUnsigned(x, 8388608.0f, 16777215.0f); });
+    toIntBackwards(src, dst, n, [](float x) { return scaledUnsigned(x, 8388608.0f, 16777215.0f); });
 }
 
 double Util::convertFromIeeeExtended(char* tenBytes)
@@ -177,10 +172,8 @@ double Util::convertFromIeeeExtended(char* tenBytes)
     const auto* bytes = reinterpret_cast<const unsigned char*>(tenBytes);
     const int exponent = ((bytes[0] & 0x7f) << 8) | bytes[1];
     const auto half = [bytes](int first) {
-        return (static_cast<std::uint32_t>(bytes[first]) << 24)
-            | (static_cast<std::uint32_t>(bytes[first + 1]) << 16)
-            | (static_cast<std::uint32_t>(bytes[first + 2]) << 8)
-            | static_cast<std::uint32_t>(bytes[first + 3]);
+        return (static_cast<std::uint32_t>(bytes[first]) << 24) | (static_cast<std::uint32_t>(bytes[first + 1]) << 16)
+            | (static_cast<std::uint32_t>(bytes[first + 2]) << 8) | static_cast<std::uint32_t>(bytes[first + 3]);
     };
     const std::uint32_t hi = half(2);
     const std::uint32_t lo = half(6);

@@ -43,15 +43,17 @@ void tst_FileUtil::writeThenRead()
 
     auto read = [&](FILE* file) -> qulonglong {
         std::rewind(file);
-        return width == 1 ? FileUtil::readB(file) : width == 2 ? FileUtil::readS(file, swap)
-            : width == 4 ? FileUtil::readL(file, swap) : FileUtil::readLL(file, swap);
+        return width == 1 ? FileUtil::readB(file)
+            : width == 2  ? FileUtil::readS(file, swap)
+            : width == 4  ? FileUtil::readL(file, swap)
+                          : FileUtil::readLL(file, swap);
     };
     FILE* file = std::tmpfile();
     QVERIFY(file);
     const size_t written = width == 1 ? FileUtil::writeB(static_cast<unsigned char>(value), file)
-        : width == 2 ? FileUtil::writeS(static_cast<unsigned short>(value), file, swap)
-        : width == 4 ? FileUtil::writeL(static_cast<unsigned int>(value), file, swap)
-                     : FileUtil::writeLL(value, file, swap);
+        : width == 2                  ? FileUtil::writeS(static_cast<unsigned short>(value), file, swap)
+        : width == 4                  ? FileUtil::writeL(static_cast<unsigned int>(value), file, swap)
+                                      : FileUtil::writeLL(value, file, swap);
     QVERIFY(written > 0);
     std::rewind(file);
     QByteArray inFile(width + 1, '?');

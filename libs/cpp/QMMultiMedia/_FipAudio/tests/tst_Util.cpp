@@ -75,27 +75,30 @@ void tst_Util::floatToInt_data()
         for (int i = n - 1; i >= 0; --i)
             d[i] = shorts[i];
     };
-    QTest::newRow("8 clamps and sign boundary") << FloatToInt(Util::convertFloatTo8)
-        << QVector<float>{1.0f, -3.0f, 0.5f / 128, -0.5f / 128, 1.0f / 128, -1.0f / 128, 0.5f}
-        << QVector<int>{127, -127, 0, 0, 1, -1, 64};
-    QTest::newRow("16 clamps and sign boundary") << FloatToInt(Util::convertFloatTo16)
-        << QVector<float>{1.5f, -1e9f, -1.0f, 0.9f * step16, -0.9f * step16, 1.5f * step16, -1.5f * step16, 0.5f}
-        << QVector<int>{32767, -32767, -32767, 0, 0, 1, -1, 16384};
-    QTest::newRow("short 16 clamps and sign boundary") << toShort
-        << QVector<float>{4.0f, -4.0f, 0.9f * step16, -0.9f * step16, step16, -step16, -0.5f}
-        << QVector<int>{32767, -32767, 0, 0, 1, -1, -16384};
-    QTest::newRow("24 clamps and sign boundary") << FloatToInt(Util::convertFloatTo24)
-        << QVector<float>{2.0f, -1.0f, 0.5f * step24, -0.5f * step24, step24, -step24, -0.25f}
-        << QVector<int>{8388607, -8388607, 0, 0, 1, -1, -2097152};
-    QTest::newRow("8U clamps and middle") << FloatToInt(Util::convertFloatTo8U)
-        << QVector<float>{1.0f, -1.0f, 5.0f, -5.0f, 0.0f, -0.5f / 128}
-        << QVector<int>{255, 0, 255, 0, 128, 127};
-    QTest::newRow("16U clamps and middle") << FloatToInt(Util::convertFloatTo16U)
-        << QVector<float>{1.01f, -1.01f, 0.0f, -step16, step16, 0.5f}
-        << QVector<int>{65535, 0, 32768, 32767, 32769, 49152};
-    QTest::newRow("24U clamps and middle") << FloatToInt(Util::convertFloatTo24U)
-        << QVector<float>{2.0f, -2.0f, 0.0f, -step24, step24}
-        << QVector<int>{16777215, 0, 8388608, 8388607, 8388609};
+    QTest::newRow("8 clamps and sign boundary")
+        << FloatToInt(Util::convertFloatTo8)
+        << QVector<float> { 1.0f, -3.0f, 0.5f / 128, -0.5f / 128, 1.0f / 128, -1.0f / 128, 0.5f }
+        << QVector<int> { 127, -127, 0, 0, 1, -1, 64 };
+    QTest::newRow("16 clamps and sign boundary")
+        << FloatToInt(Util::convertFloatTo16)
+        << QVector<float> { 1.5f, -1e9f, -1.0f, 0.9f * step16, -0.9f * step16, 1.5f * step16, -1.5f * step16, 0.5f }
+        << QVector<int> { 32767, -32767, -32767, 0, 0, 1, -1, 16384 };
+    QTest::newRow("short 16 clamps and sign boundary")
+        << toShort << QVector<float> { 4.0f, -4.0f, 0.9f * step16, -0.9f * step16, step16, -step16, -0.5f }
+        << QVector<int> { 32767, -32767, 0, 0, 1, -1, -16384 };
+    QTest::newRow("24 clamps and sign boundary")
+        << FloatToInt(Util::convertFloatTo24)
+        << QVector<float> { 2.0f, -1.0f, 0.5f * step24, -0.5f * step24, step24, -step24, -0.25f }
+        << QVector<int> { 8388607, -8388607, 0, 0, 1, -1, -2097152 };
+    QTest::newRow("8U clamps and middle")
+        << FloatToInt(Util::convertFloatTo8U) << QVector<float> { 1.0f, -1.0f, 5.0f, -5.0f, 0.0f, -0.5f / 128 }
+        << QVector<int> { 255, 0, 255, 0, 128, 127 };
+    QTest::newRow("16U clamps and middle")
+        << FloatToInt(Util::convertFloatTo16U) << QVector<float> { 1.01f, -1.01f, 0.0f, -step16, step16, 0.5f }
+        << QVector<int> { 65535, 0, 32768, 32767, 32769, 49152 };
+    QTest::newRow("24U clamps and middle")
+        << FloatToInt(Util::convertFloatTo24U) << QVector<float> { 2.0f, -2.0f, 0.0f, -step24, step24 }
+        << QVector<int> { 16777215, 0, 8388608, 8388607, 8388609 };
 }
 
 void tst_Util::floatToInt()
@@ -113,19 +116,19 @@ void tst_Util::intToFloat_data()
     QTest::addColumn<QVector<int>>("input");
     QTest::addColumn<QVector<float>>("expected");
 
-    QTest::newRow("8") << IntToFloat(Util::convert8ToFloat) << QVector<int>{127, 0x80, -128, 1, 0xff}
-        << QVector<float>{127.0f / 128, -1.0f, -1.0f, 1.0f / 128, -1.0f / 128};
-    QTest::newRow("16, bits above the sample ignored") << IntToFloat(Util::convert16ToFloat)
-        << QVector<int>{32767, 0x8000, 1, 0xffff, 0x14000}
-        << QVector<float>{32767 * step16, -1.0f, step16, -step16, 0.5f};
-    QTest::newRow("24") << IntToFloat(Util::convert24ToFloat) << QVector<int>{8388607, 0x800000, 1, 0xffffff}
-        << QVector<float>{8388607 * step24, -1.0f, step24, -step24};
-    QTest::newRow("8U") << IntToFloat(Util::convert8UToFloat) << QVector<int>{0, 128, 255, 127}
-        << QVector<float>{-1.0f, 0.0f, 127.0f / 128, -1.0f / 128};
-    QTest::newRow("16U") << IntToFloat(Util::convert16UToFloat) << QVector<int>{0, 32768, 65535, 32767}
-        << QVector<float>{-1.0f, 0.0f, 32767 * step16, -step16};
-    QTest::newRow("24U") << IntToFloat(Util::convert24UToFloat) << QVector<int>{0, 0x800000, 0xffffff, 0x7fffff}
-        << QVector<float>{-1.0f, 0.0f, 8388607 * step24, -step24};
+    QTest::newRow("8") << IntToFloat(Util::convert8ToFloat) << QVector<int> { 127, 0x80, -128, 1, 0xff }
+                       << QVector<float> { 127.0f / 128, -1.0f, -1.0f, 1.0f / 128, -1.0f / 128 };
+    QTest::newRow("16, bits above the sample ignored")
+        << IntToFloat(Util::convert16ToFloat) << QVector<int> { 32767, 0x8000, 1, 0xffff, 0x14000 }
+        << QVector<float> { 32767 * step16, -1.0f, step16, -step16, 0.5f };
+    QTest::newRow("24") << IntToFloat(Util::convert24ToFloat) << QVector<int> { 8388607, 0x800000, 1, 0xffffff }
+                        << QVector<float> { 8388607 * step24, -1.0f, step24, -step24 };
+    QTest::newRow("8U") << IntToFloat(Util::convert8UToFloat) << QVector<int> { 0, 128, 255, 127 }
+                        << QVector<float> { -1.0f, 0.0f, 127.0f / 128, -1.0f / 128 };
+    QTest::newRow("16U") << IntToFloat(Util::convert16UToFloat) << QVector<int> { 0, 32768, 65535, 32767 }
+                         << QVector<float> { -1.0f, 0.0f, 32767 * step16, -step16 };
+    QTest::newRow("24U") << IntToFloat(Util::convert24UToFloat) << QVector<int> { 0, 0x800000, 0xffffff, 0x7fffff }
+                         << QVector<float> { -1.0f, 0.0f, 8388607 * step24, -step24 };
 }
 
 void tst_Util::intToFloat()
@@ -145,22 +148,25 @@ void tst_Util::raw_data()
     QTest::addColumn<QByteArray>("bytes");
 
     QTest::newRow("8U") << IntToRaw(Util::convert8UToRaw) << RawToInt(Util::convertRawTo8U)
-        << QVector<int>{0, 127, 128, 255, 1} << QByteArray("\x00\x7f\x80\xff\x01", 5);
-    QTest::newRow("16U little endian")
-        << IntToRaw([](const int* s, char* d, int n) { Util::convert16UToRaw(s, d, 2 * n, true); })
-        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo16U(s, d, n, true); })
-        << QVector<int>{0x1234, 0x80ff, 0} << QByteArray("\x34\x12\xff\x80\x00\x00", 6);
-    QTest::newRow("16U big endian")
-        << IntToRaw([](const int* s, char* d, int n) { Util::convert16UToRaw(s, d, 2 * n, false); })
-        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo16U(s, d, n, false); })
-        << QVector<int>{0x1234, 0x80ff, 0xffff} << QByteArray("\x12\x34\x80\xff\xff\xff", 6);
-    QTest::newRow("24U low byte first")
-        << IntToRaw([](const int* s, char* d, int n) { Util::convert24UToRaw(s, d, 3 * n); })
-        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo24U(s, d, n, false); })
-        << QVector<int>{0x123456, 0x80ffff, 1} << QByteArray("\x56\x34\x12\xff\xff\x80\x01\x00\x00", 9);
-    QTest::newRow("24U swapped reads high byte first") << IntToRaw()
-        << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo24U(s, d, n, true); })
-        << QVector<int>{0x123456, 0x80ffff, 1} << QByteArray("\x12\x34\x56\x80\xff\xff\x00\x00\x01", 9);
+                        << QVector<int> { 0, 127, 128, 255, 1 } << QByteArray("\x00\x7f\x80\xff\x01", 5);
+    QTest::newRow("16U little endian") << IntToRaw([](const int* s, char* d, int n) {
+        Util::convert16UToRaw(s, d, 2 * n, true);
+    }) << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo16U(s, d, n, true); })
+                                       << QVector<int> { 0x1234, 0x80ff, 0 }
+                                       << QByteArray("\x34\x12\xff\x80\x00\x00", 6);
+    QTest::newRow("16U big endian") << IntToRaw([](const int* s, char* d, int n) {
+        Util::convert16UToRaw(s, d, 2 * n, false);
+    }) << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo16U(s, d, n, false); })
+                                    << QVector<int> { 0x1234, 0x80ff, 0xffff }
+                                    << QByteArray("\x12\x34\x80\xff\xff\xff", 6);
+    QTest::newRow("24U low byte first") << IntToRaw([](const int* s, char* d, int n) {
+        Util::convert24UToRaw(s, d, 3 * n);
+    }) << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo24U(s, d, n, false); })
+                                        << QVector<int> { 0x123456, 0x80ffff, 1 }
+                                        << QByteArray("\x56\x34\x12\xff\xff\x80\x01\x00\x00", 9);
+    QTest::newRow("24U swapped reads high byte first")
+        << IntToRaw() << RawToInt([](const char* s, int* d, int n) { Util::convertRawTo24U(s, d, n, true); })
+        << QVector<int> { 0x123456, 0x80ffff, 1 } << QByteArray("\x12\x34\x56\x80\xff\xff\x00\x00\x01", 9);
 }
 
 // Unpacks and packs the table's samples, out of place and in place.
