@@ -34,12 +34,25 @@ bool initialiseMpg123()
     return ok;
 }
 
+// The most interleaved samples a file of this format may decode to.
+qint64 sampleCeiling(long rate, int channels)
+{
+    return static_cast<qint64>(AudioFileDecoder::MaximumSeconds * rate) * channels;
+}
+
+bool plausibleFormat(long rate, int channels)
+{
+    return rate >= 1 && rate <= AudioFileDecoder::MaximumSampleRate && channels >= 1
+        && channels <= AudioFileDecoder::MaximumChannels;
+}
+
 } // namespace
 
 bool AudioFileDecoder::decode(const QString& path, DecodedSound* sound)
 {
     *sound = DecodedSound();
-    if (!QFileInfo(path).isFile())
+    const QFileInfo info(path);
+    if (!info.isFile() || info.size() > MaximumFileBytes)
         return false;
     const bool ok = QFileInfo(path).suffix().compare(QLatin1String("mp3"), Qt::CaseInsensitive) == 0
         ? decodeMp3(path, sound)
@@ -79,9 +92,12 @@ bool AudioFileDecoder::decodeMp3(const QString& path, DecodedSound* sound)
     mpg123_format_none(handle.get());
     mpg123_format(handle.get(), rate, channels, encoding);
 
-    const off_t expected = mpg123_length(handle.get());
+    // The length comes from the file's own header and may be anything: it
+    // only sizes the first allocation, within the ceiling.
+    const qint64 ceiling = sampleCeiling(rate, channels);
+    const qint64 expected = static_cast<qint64>(mpg123_length(handle.get())) * channels;
     if (expected > 0)
-        sound->samples.reserve(static_cast<int>(expected * channels));
+        sound->samples.reserve(static_cast<int>(qMin(expected, ceiling)));
 
     QVector<float> chunk(16384);
     for (;;) {
@@ -90,6 +106,8 @@ bool AudioFileDecoder::decodeMp3(const QString& path, DecodedSound* sound)
             static_cast<size_t>(chunk.size()) * sizeof(float), &done);
         const int count = static_cast<int>(done / sizeof(float));
         const int start = sound->samples.size();
+        if (start + count > ceiling)
+            return false;
         sound->samples.resize(start + count);
         std::copy(chunk.constBegin(), chunk.constBegin() + count, sound->samples.begin() + start);
         if (result == MPG123_DONE)
@@ -106,7 +124,8 @@ bool AudioFileDecoder::decodeWithSndfile(const QString& path, DecodedSound* soun
 {
     SF_INFO info = {};
     std::unique_ptr<SNDFILE, SndfileCloser> file(sf_open(QFile::encodeName(path).constData(), SFM_READ, &info));
-    if (!file || info.channels < 1 || info.samplerate < 1 || info.frames <= 0)
+    if (!file || !plausibleFormat(info.samplerate, info.channels) || info.frames <= 0
+        || info.frames > sampleCeiling(info.samplerate, info.channels) / info.channels)
         return false;
     sound->samples.resize(static_cast<int>(info.frames * info.channels));
     const sf_count_t read = sf_readf_float(file.get(), sound->samples.data(), info.frames);

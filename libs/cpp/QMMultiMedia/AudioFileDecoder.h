@@ -17,11 +17,20 @@ struct DecodedSound
 
 // Decodes an mp3 (libmpg123) or wave file (libsndfile) completely into
 // memory, at its exact gapless length.
+//
+// Samples are short: anything longer than MaximumSeconds, larger than
+// MaximumFileBytes or with more than MaximumChannels is refused before it is
+// allocated, whatever its header claims, so that a broken file costs nothing.
 class AudioFileDecoder
 {
 public:
-    // Fills `sound` and returns true; a missing or broken file, or one
-    // without any samples, returns false and leaves `sound` empty.
+    static constexpr double MaximumSeconds = 60.0;
+    static constexpr qint64 MaximumFileBytes = 128 * 1024 * 1024;
+    static constexpr int MaximumChannels = 8;
+    static constexpr int MaximumSampleRate = 384000;
+
+    // Fills `sound` and returns true; a missing, broken or oversized file,
+    // or one without any samples, returns false and leaves `sound` empty.
     static bool decode(const QString& path, DecodedSound* sound);
 
 private:
