@@ -1,16 +1,14 @@
 #include "MemoryAudioPlayer.h"
 
+#include "OutputBudget.h"
 #include "PlaybackArithmetic.h"
-
-#include <QAudioDeviceInfo>
-#include <QAudioOutput>
+#include "PulseStream.h"
 
 namespace QMMultiMedia {
 
 namespace {
-// The output's default buffer is kept; a short timer tops it up.
+// The stream's buffer is kept short; a timer tops it up.
 const int TopUpIntervalMs = 10;
-const int BytesPerFrame = 4; // 16-bit stereo
 }
 
 MemoryAudioPlayer::MemoryAudioPlayer(QObject* parent)
@@ -29,15 +27,7 @@ MemoryAudioPlayer::~MemoryAudioPlayer()
 
 bool MemoryAudioPlayer::load(const QString& path)
 {
-    if (!AudioFileDecoder::decode(path, &m_sound))
-        return false;
-    m_format.setSampleRate(m_sound.sampleRate);
-    m_format.setChannelCount(2);
-    m_format.setSampleSize(16);
-    m_format.setSampleType(QAudioFormat::SignedInt);
-    m_format.setByteOrder(QAudioFormat::LittleEndian);
-    m_format.setCodec(QStringLiteral("audio/pcm"));
-    return true;
+    return AudioFileDecoder::decode(path, &m_sound);
 }
 
 void MemoryAudioPlayer::setVolume(float volume)
@@ -57,24 +47,24 @@ void MemoryAudioPlayer::play()
     if (m_running) {
         if (isPlaying())
             return;
-        // Played out (or the output failed): a new play starts from the top.
+        // Played out (or the stream failed): a new play starts from the top.
         m_running = false;
         dropOutput();
         m_nextFrame = 0;
     }
-    if (m_output && m_device && m_output->state() == QAudio::SuspendedState) {
-        m_output->resume();
+    if (m_stream && m_paused) {
+        m_stream->setPaused(false);
     } else {
         if (allWritten())
             m_nextFrame = 0;
         m_clockStart = PlaybackArithmetic::framesToSeconds(m_nextFrame, m_sound.sampleRate);
         startOutput();
     }
+    m_paused = false;
     m_running = true;
     m_clock.start();
-    writeAvailable();
-    if (!allWritten())
-        m_topUpTimer.start();
+    slotTopUp();
+    m_topUpTimer.start();
 }
 
 void MemoryAudioPlayer::pause()
@@ -84,8 +74,10 @@ void MemoryAudioPlayer::pause()
     m_clockStart = currentTime();
     m_running = false;
     m_topUpTimer.stop();
-    if (m_output)
-        m_output->suspend();
+    if (m_stream) {
+        m_stream->setPaused(true);
+        m_paused = true;
+    }
 }
 
 void MemoryAudioPlayer::stop()
@@ -100,12 +92,9 @@ void MemoryAudioPlayer::stop()
 
 bool MemoryAudioPlayer::isPlaying() const
 {
-    if (!m_running || !m_output || !m_device)
+    if (!m_running || !m_stream || m_stream->state() == PulseStream::State::Failed)
         return false;
-    const QAudio::State state = m_output->state();
-    if (state == QAudio::StoppedState)
-        return false;
-    return !(allWritten() && state == QAudio::IdleState);
+    return !(allWritten() && m_stream->drained());
 }
 
 double MemoryAudioPlayer::currentTime() const
@@ -120,16 +109,15 @@ void MemoryAudioPlayer::setCurrentTime(double seconds)
     const double position = qBound(0.0, seconds, duration());
     m_clockStart = position;
     m_nextFrame = PlaybackArithmetic::secondsToFrames(position, m_sound.sampleRate);
-    if (!m_output)
+    if (!m_stream)
         return;
-    // What the output still holds belongs to the old position.
+    // What the stream still holds belongs to the old position.
     dropOutput();
     if (m_running) {
         startOutput();
         m_clock.start();
-        writeAvailable();
-        if (!allWritten())
-            m_topUpTimer.start();
+        slotTopUp();
+        m_topUpTimer.start();
     }
 }
 
@@ -140,42 +128,61 @@ double MemoryAudioPlayer::duration() const
 
 void MemoryAudioPlayer::slotTopUp()
 {
-    writeAvailable();
-    if (allWritten())
+    if (!m_stream || m_stream->state() == PulseStream::State::Failed) {
         m_topUpTimer.stop();
+        return;
+    }
+    writeAvailable();
+    if (allWritten() && m_stream->state() == PulseStream::State::Ready) {
+        m_stream->drain();
+        m_topUpTimer.stop();
+    }
 }
 
 void MemoryAudioPlayer::startOutput()
 {
     dropOutput();
-    m_output = new QAudioOutput(QAudioDeviceInfo::defaultOutputDevice(), m_format, this);
-    m_device = m_output->start();
+    if (MemoryAudioPlayer* oldest = OutputBudget::shared().admit(this))
+        oldest->giveWay();
+    m_stream = std::make_unique<PulseStream>(m_sound.sampleRate);
 }
 
 void MemoryAudioPlayer::dropOutput()
 {
-    if (!m_output)
+    if (!m_stream)
         return;
-    m_output->stop();
-    delete m_output;
-    m_output = nullptr;
-    m_device = nullptr;
+    OutputBudget::shared().release(this);
+    m_stream.reset();
+    m_paused = false;
+}
+
+void MemoryAudioPlayer::giveWay()
+{
+    m_running = false;
+    m_topUpTimer.stop();
+    m_stream.reset();
+    m_paused = false;
+    // The sound is over for good: its samples need not wait for the deletion.
+    m_sound = DecodedSound();
+    m_clockStart = 0.0;
+    m_nextFrame = 0;
+    emit gaveWay();
 }
 
 void MemoryAudioPlayer::writeAvailable()
 {
-    if (!m_output || !m_device || allWritten())
+    if (!m_stream || allWritten())
         return;
-    const qint64 room = m_output->bytesFree() / BytesPerFrame;
+    const qint64 room = m_stream->writableBytes() / PulseStream::BytesPerFrame;
     const qint64 frames = qMin(room, m_sound.frames() - m_nextFrame);
     if (frames <= 0)
         return;
-    m_scratch.resize(static_cast<int>(frames * BytesPerFrame));
+    m_scratch.resize(static_cast<int>(frames * PulseStream::BytesPerFrame));
     PlaybackArithmetic::mixToStereo16(m_sound.samples.constData() + m_nextFrame * m_sound.channels, m_sound.channels,
         frames, m_volume, m_pan, reinterpret_cast<qint16*>(m_scratch.data()));
-    const qint64 written = m_device->write(m_scratch.constData(), m_scratch.size());
+    const qint64 written = m_stream->write(m_scratch.constData(), m_scratch.size());
     if (written > 0)
-        m_nextFrame += written / BytesPerFrame;
+        m_nextFrame += written / PulseStream::BytesPerFrame;
 }
 
 bool MemoryAudioPlayer::allWritten() const

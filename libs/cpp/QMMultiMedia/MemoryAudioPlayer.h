@@ -2,21 +2,22 @@
 
 #include "AudioFileDecoder.h"
 
-#include <QAudioFormat>
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
-class QAudioOutput;
-class QIODevice;
+#include <memory>
 
 namespace QMMultiMedia {
 
+class PulseStream;
+
 // The platform player on Linux: a sound file decoded into memory and pushed
-// into its own QAudioOutput, with volume and balance applied to the samples.
-// Its position comes from a clock started at play, because the output's
-// processed time runs ahead of what was heard and survives a stop.
+// into its own sound-server stream, with volume and balance applied to the
+// samples. Its position comes from a clock started at play. The streams of
+// all players share one OutputBudget: when it is full, the player that
+// started first gives way (it stops and emits gaveWay()).
 class MemoryAudioPlayer : public QObject
 {
     Q_OBJECT
@@ -41,21 +42,25 @@ public:
     void setCurrentTime(double seconds);
     double duration() const;
 
+signals:
+    // Ended early to make room for a newer sound; the sound is over.
+    void gaveWay();
+
 private:
     void slotTopUp();
     void startOutput();
     void dropOutput();
+    void giveWay();
     void writeAvailable();
     bool allWritten() const;
 
     DecodedSound m_sound;
-    QAudioFormat m_format;
-    QAudioOutput* m_output = nullptr;
-    QIODevice* m_device = nullptr;
+    std::unique_ptr<PulseStream> m_stream;
     QTimer m_topUpTimer;
     QByteArray m_scratch;
     qint64 m_nextFrame = 0;
     bool m_running = false;
+    bool m_paused = false;
     QElapsedTimer m_clock;
     double m_clockStart = 0.0;
     float m_volume = 1.0f;

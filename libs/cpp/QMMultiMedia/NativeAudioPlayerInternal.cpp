@@ -3,6 +3,10 @@
 #include "MemoryAudioPlayer.h"
 #include "PlaybackArithmetic.h"
 
+#include <QDebug>
+
+#include <memory>
+
 namespace QMMultiMedia {
 
 namespace {
@@ -28,13 +32,16 @@ void NativeAudioPlayerInternal::setMedia(const QString& path)
         m_player->stop();
         releasePlayer();
     }
-    auto* player = new MemoryAudioPlayer;
+    auto player = std::make_unique<MemoryAudioPlayer>();
     if (!player->load(path)) {
-        delete player;
+        // Nothing is kept of a file that cannot be played: no buffer, no
+        // stream, no timer; only the log says why it stays silent.
+        qWarning().noquote() << "Cannot play" << path;
         return;
     }
     // The balance stays with the old player; the new one starts centred.
-    m_player = player;
+    m_player = player.release();
+    connect(m_player, &MemoryAudioPlayer::gaveWay, this, &NativeAudioPlayerInternal::slotPlayerGaveWay);
 }
 
 void NativeAudioPlayerInternal::play()
@@ -138,6 +145,17 @@ void NativeAudioPlayerInternal::slotPositionChanged()
     // The state says playing and the platform does not: the sound has ended.
     m_positionTimer.stop();
     releasePlayer();
+    emit finished();
+}
+
+// The player ended early to make room for a newer sound: that is its end,
+// whatever its state, as if the sample had run out.
+void NativeAudioPlayerInternal::slotPlayerGaveWay()
+{
+    m_positionTimer.stop();
+    // The player is inside its own signal: delete it once that has returned.
+    m_player->deleteLater();
+    m_player = nullptr;
     emit finished();
 }
 

@@ -42,6 +42,7 @@ signals:
 
 public slots:
     void slotPositionChanged();
+    void slotPlayerGaveWay();
 
 private:
     enum State
