@@ -4,6 +4,9 @@
 #include "CorvaneProducts.h"
 #include "CorvaneSite.h"
 #include "GuitarTonariumMainPage.h"
+#include "WindowGeometry.h"
+
+#include <QScreen>
 
 int main(int argc, char* argv[])
 {
@@ -32,8 +35,12 @@ int main(int argc, char* argv[])
     page.setMinimumHeight(600);
     page.setMinimumWidth(800);
     // Only the tuner pages store these; this window opens at its minimum.
-    page.resize(app.settingsValue(QStringLiteral("Width"), page.minimumSize().width()).toInt(),
+    // A hand-edited size is kept within the screen.
+    const QSize stored(app.settingsValue(QStringLiteral("Width"), page.minimumSize().width()).toInt(),
         app.settingsValue(QStringLiteral("Height"), page.minimumSize().height()).toInt());
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    page.resize(QMWidgets::WindowGeometry::fittedSize(
+        stored, page.minimumSize(), screen ? screen->availableGeometry().size() : page.minimumSize()));
 
     QObject::connect(&app, &QMWidgets::App::dockClicked, &page, &QWidget::showNormal);
     QObject::connect(&app, &QMWidgets::App::dockClicked, &page, [&page]() {

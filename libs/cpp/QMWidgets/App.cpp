@@ -5,6 +5,7 @@
 #include "BlenderWidget.h"
 #include "CorvaneSite.h"
 #include "HelpDialog.h"
+#include "SettingsStore.h"
 #include "TranslationsManager.h"
 
 #include <QDateTime>
@@ -23,6 +24,9 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <pwd.h>
+#include <unistd.h>
+
 namespace QMWidgets {
 
 namespace {
@@ -40,6 +44,13 @@ QString applicationNameLower()
 App::App(int& argc, char** argv, const QString& organizationName, const QString& applicationName)
     : QApplication(argc, argv)
 {
+    // Every directory lies under the home directory: without HOME, take the
+    // account's own home rather than the file system's root.
+    if (qEnvironmentVariableIsEmpty("HOME")) {
+        if (const passwd* account = getpwuid(getuid()))
+            qputenv("HOME", account->pw_dir);
+    }
+
     // Directory paths contain these names, so they come first.
     QCoreApplication::setOrganizationName(organizationName);
     QCoreApplication::setApplicationName(applicationName);
@@ -59,7 +70,7 @@ App::App(int& argc, char** argv, const QString& organizationName, const QString&
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, supportDirectory(true));
     // INI text in spite of the file name: existing files must keep loading.
-    m_settings = new QSettings(supportDirectory(true) + QStringLiteral("settings.plist"), QSettings::IniFormat, this);
+    m_settings = SettingsStore::open(supportDirectory(true) + QStringLiteral("settings.plist"), applicationName, this);
 
     m_bundleResourcePath = bundleResourcePathFor(QCoreApplication::applicationDirPath());
 
