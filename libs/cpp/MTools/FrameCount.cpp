@@ -196,12 +196,15 @@ int FrameCount::nominalFrames(float fps)
         return 30;
     if (fps == ntscFilmRate)
         return 24;
+    // Not a number, infinity or a rate no film or video has counts as no rate.
+    if (!(std::fabs(fps) < maximumRate))
+        return 0;
     return static_cast<int>(std::fabs(fps));
 }
 
 FipTime FrameCount::frameCountFromTimecode(int h, int m, int s, int f, bool pulldown, int phase, int* odd) const
 {
-    if (m_fps == 0.0f)
+    if (nominalFrames(m_fps) == 0)
         return unknownFrame;
 
     FipTime n = nominalFrames(m_fps);
@@ -259,7 +262,7 @@ void FrameCount::timecodeFromFrameCount(
         deliver();
         return;
     }
-    if (m_fps == 0.0f) {
+    if (nominalFrames(m_fps) == 0) {
         deliver();
         return;
     }
@@ -327,7 +330,7 @@ void FrameCount::timecodeFromFrameCount(
 
 QString FrameCount::timecodeFromFrameCount(bool wrap, bool pulldown, int phase) const
 {
-    if (m_fps == 0.0f)
+    if (nominalFrames(m_fps) == 0)
         return QString();
     int h = 0;
     int m = 0;
@@ -448,7 +451,7 @@ FipTime FrameCount::convertFrame(float fps)
     }
     if (m_fps < 0.0f)
         m_fps = -m_fps;
-    if (m_fps == 0.0f)
+    if (nominalFrames(m_fps) == 0 || nominalFrames(fps) == 0)
         return unknownFrame;
     return std::llround(static_cast<double>(m_frame) * fps / m_fps);
 }

@@ -18,6 +18,8 @@ class FrameCount
 public:
     // The frame value that stands for "unknown".
     static constexpr FipTime unknownFrame = LLONG_MIN;
+    // Rates from this size on (and rates that are not a number) count as no rate.
+    static constexpr float maximumRate = 1000000.0f;
 
     FrameCount();
     FrameCount(long long frame, float fps);

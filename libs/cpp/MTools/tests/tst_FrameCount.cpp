@@ -2,6 +2,8 @@
 
 #include <QtTest>
 
+#include <limits>
+
 using MTools::FipTime;
 using MTools::FrameCount;
 
@@ -116,6 +118,16 @@ void tst_FrameCount::timecode_data()
                                            << "00:00:01:00";
     QTest::newRow("rate 0 gives no text") << 0.0f << 100LL << "->"
                                           << "";
+    QTest::newRow("rate not a number: no frame, no text") << std::numeric_limits<float>::quiet_NaN() << unknown << "<-"
+                                                          << "00:00:01:00";
+    QTest::newRow("rate not a number gives no text") << std::numeric_limits<float>::quiet_NaN() << 100LL << "->"
+                                                     << "";
+    QTest::newRow("infinite rate gives no text") << std::numeric_limits<float>::infinity() << 100LL << "->"
+                                                 << "";
+    QTest::newRow("rate of 1e30 reads no frame") << 1e30f << unknown << "<-"
+                                                 << "00:00:01:00";
+    QTest::newRow("rate of -3e9 gives no text") << -3e9f << 100LL << "->"
+                                                << "";
 }
 
 void tst_FrameCount::timecode()
