@@ -82,7 +82,11 @@ App::App(int& argc, char** argv, const QString& organizationName, const QString&
         QTimer::singleShot(2000, this, &App::nop_cuos);
 }
 
-App::~App() = default;
+App::~App()
+{
+    // Without a window to belong to, the introduction belongs to no one else.
+    delete m_helpDialog;
+}
 
 App* App::theApp()
 {

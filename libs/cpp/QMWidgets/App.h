@@ -187,7 +187,7 @@ private:
     QString m_saveDirPath;
     bool m_sandboxed = false;
     QString m_appId;
-    HelpDialog* m_helpDialog = nullptr;
+    QPointer<HelpDialog> m_helpDialog;
     QStringList m_introductionSlides;
     QString m_promotedAppId;
     QString m_promotedAppName;

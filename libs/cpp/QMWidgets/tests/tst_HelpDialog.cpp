@@ -3,11 +3,14 @@
 #include "HelpDisplay.h"
 #include "HelpViewArea.h"
 
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+
+#include <cstdio>
 
 using namespace QMWidgets;
 
@@ -45,6 +48,9 @@ struct ShownDialog
         return nullptr;
     }
 };
+
+// The application's own introduction, once it has opened.
+QPointer<HelpDialog> g_applicationsDialog;
 
 } // namespace
 
@@ -134,6 +140,7 @@ private slots:
         connect(&watcher, &QTimer::timeout, this, [&opened]() {
             if (auto* dialog = qobject_cast<HelpDialog*>(QApplication::activeModalWidget())) {
                 opened = true;
+                g_applicationsDialog = dialog;
                 dialog->reject();
             }
         });
@@ -189,9 +196,18 @@ int main(int argc, char* argv[])
 {
     QTemporaryDir home;
     qputenv("HOME", home.path().toUtf8());
-    App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral("GuitarTonarium"));
-    TestHelpDialog test;
-    return QTest::qExec(&test, argc, argv);
+    int result = 0;
+    {
+        App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral("GuitarTonarium"));
+        TestHelpDialog test;
+        result = QTest::qExec(&test, argc, argv);
+    }
+    // Opened with no window to belong to, the introduction still ends with the application.
+    if (g_applicationsDialog) {
+        std::fputs("FAIL: the introduction outlived the application\n", stderr);
+        return 1;
+    }
+    return result;
 }
 
 #include "tst_HelpDialog.moc"
