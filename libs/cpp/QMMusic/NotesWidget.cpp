@@ -251,6 +251,13 @@ void NotesWidget::generateNamePosMap()
 void NotesWidget::resizeEvent(QResizeEvent* event)
 {
     QFrame::resizeEvent(event);
+    // The pointer's row is kept in pixels: carry it into the new size so that
+    // it stays on the note the user chose.
+    if (!m_notePoint.isNull() && event->oldSize().height() > 0) {
+        StaffGeometry before = staffGeometry();
+        before.setHeight(event->oldSize().height());
+        m_notePoint.setY(staffGeometry().rowFrom(before, m_notePoint.y()));
+    }
     generateNamePosMap();
     m_regenerateKeys = true;
     m_regenerateNote = true;

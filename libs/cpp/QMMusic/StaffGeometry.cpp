@@ -1,5 +1,7 @@
 #include "StaffGeometry.h"
 
+#include <cmath>
+
 #include <cstddef>
 
 namespace QMMusic {
@@ -402,6 +404,25 @@ QMap<QString, int> StaffGeometry::namePositions(const QString& instrumentName) c
     for (const auto& row : referenceRows(instrumentName))
         positions.insert(row.first, rowOfNote(row.first, row.second));
     return positions;
+}
+
+int StaffGeometry::rowFrom(const StaffGeometry& from, int y) const
+{
+    const float fromHalf = from.lineHeight() / 2.0f;
+    const float half = lineHeight() / 2.0f;
+    if (fromHalf <= 0.0f || half <= 0.0f)
+        return y;
+    const int target = from.halfLineIndex(float(y));
+    const float place = (float(y) + from.translation()) / fromHalf;
+    const int scaled = int(std::floor(place * half - translation()));
+    // Rounding may carry the row over a boundary: walk back into the half-line.
+    const int step = halfLineIndex(float(scaled)) < target ? 1 : -1;
+    const int maxSteps = int(half) + 2;
+    for (int row = scaled, i = 0; i <= maxSteps; row += step, ++i) {
+        if (halfLineIndex(float(row)) == target)
+            return row;
+    }
+    return scaled;
 }
 
 } // namespace QMMusic

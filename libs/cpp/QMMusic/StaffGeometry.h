@@ -66,6 +66,10 @@ public:
     // half-line where the scaling lands in a neighbouring one.
     int rowOfNote(const QString& name, int referenceRow) const;
     QMap<QString, int> namePositions(const QString& instrumentName) const;
+    // The pixel row of this staff that lies in the same half-line as `y` of
+    // `from`, at the same place within it as far as pixels allow: what a
+    // stored pointer row becomes when the staff changes its size.
+    int rowFrom(const StaffGeometry& from, int y) const;
 
 private:
     int m_height = 0;

@@ -113,6 +113,8 @@ private slots:
     void hoverThenPress();
     void showNote_data();
     void showNote();
+    void resizeKeepsTheChosenNote_data();
+    void resizeKeepsTheChosenNote();
     void signPressedAfterANoteWaitsForTheNext_data();
     void signPressedAfterANoteWaitsForTheNext();
     void signButtonsAreExclusive();
@@ -332,6 +334,39 @@ void TestNotesWidget::signButtonsAreExclusive()
         for (const QString& sign : signs)
             QCOMPARE(button(widget, qPrintable(sign))->isChecked(), sign == clicked);
     }
+}
+
+void TestNotesWidget::resizeKeepsTheChosenNote_data()
+{
+    QTest::addColumn<QString>("instrument");
+    QTest::addColumn<QString>("note");
+
+    for (const char* instrument : kInstruments) {
+        for (const auto& row : StaffGeometry::referenceRows(QLatin1String(instrument)))
+            QTest::addRow("%s %s", instrument, qPrintable(row.first)) << QString::fromLatin1(instrument) << row.first;
+    }
+}
+
+// The note under the pointer stays the one the user chose, whatever sizes
+// the window passes through: nothing is reported, the label stays.
+void TestNotesWidget::resizeKeepsTheChosenNote()
+{
+    QFETCH(QString, instrument);
+    QFETCH(QString, note);
+
+    RecordingNotesWidget widget;
+    QVERIFY(showGuitarStaff(widget, instrument));
+    hover(widget, widget.nameToPos(note).y());
+    const QString label = noteLabel(widget);
+    QVERIFY2(label.contains(note), qPrintable(label));
+
+    QSignalSpy changed(&widget, &NotesWidget::noteChanged);
+    for (int height : { 330, 200, 641, 323, 1000, 150, 777, 401, 324, 260, 519 }) {
+        widget.resize(400, height);
+        paintOnly(widget);
+        QVERIFY2(changed.isEmpty(), qPrintable(QStringLiteral("at height %1: %2").arg(height).arg(noteLabel(widget))));
+    }
+    QCOMPARE(noteLabel(widget), label);
 }
 
 QTEST_MAIN(TestNotesWidget)
