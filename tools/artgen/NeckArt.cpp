@@ -20,8 +20,11 @@ const QSize kLargeSize(2048, 497);
 const QSize kSmallSize(800, 194);
 const double kSx = 2048.0 / GuitarFretMap::DesignWidth;
 const double kSy = 497.0 / GuitarFretMap::DesignHeight;
-// Mark diameter in the 2048 px picture.
-const double kMarkDiameter = 87.0;
+// The largest mark, glow included, in the 2048 px picture: training keeps a
+// strip of 80 px (at 1x) around a mark, and it must show a whole one.
+const double kMarkMaxExtent = 37.0;
+// The mark's colour: cyan reads clearly on the warm wood.
+const QColor kMarkColour(64, 200, 224);
 
 QPointF toPicture(double x, double y)
 {
@@ -430,17 +433,41 @@ QImage NeckArt::drawOverlay(const QString& stem, const QSize& size)
     painter.setRenderHint(QPainter::Antialiasing);
     const double sx = double(size.width()) / GuitarFretMap::DesignWidth;
     const double sy = double(size.height()) / GuitarFretMap::DesignHeight;
-    const double radius = kMarkDiameter / 2 * size.width() / kLargeSize.width();
+    const double scale = double(size.width()) / kLargeSize.width();
+    const NeckGeometry geometry;
 
+    // A ring around the string at its fret, about one string spacing across,
+    // with a soft glow outside and a tinted, see-through middle, so that the
+    // string stays visible through it.
     for (const NeckGeometry::Place& place : NeckGeometry::places(stem)) {
-        const QPoint box = GuitarFretMap::centre(place.string, place.column);
-        const QPointF centre(box.x() * sx, box.y() * sy);
-        QRadialGradient spot(centre - QPointF(radius * 0.25, radius * 0.3), radius * 1.25);
-        spot.setColorAt(0.0, QColor(96, 224, 224, 236));
-        spot.setColorAt(1.0, QColor(64, 192, 224, 236));
-        painter.setPen(QPen(QColor(72, 200, 224, 255), qMax(1.0, radius * 0.08)));
-        painter.setBrush(spot);
-        painter.drawEllipse(centre, radius - radius * 0.04, radius - radius * 0.04);
+        const double x = GuitarFretMap::centre(place.string, place.column).x();
+        const QPointF centre(x * sx, geometry.stringY(place.string, x) * sy);
+        const double outer = qMin(geometry.spacing(x) * kSx, kMarkMaxExtent) / 2 * scale;
+        const double ring = outer * 0.74;
+
+        QRadialGradient glow(centre, outer);
+        QColor clear = kMarkColour;
+        clear.setAlpha(0);
+        QColor soft = kMarkColour;
+        soft.setAlpha(110);
+        glow.setColorAt(0.0, clear);
+        glow.setColorAt(0.55, clear);
+        glow.setColorAt(0.74, soft);
+        glow.setColorAt(1.0, clear);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(glow);
+        painter.drawEllipse(centre, outer, outer);
+
+        QColor tint = kMarkColour;
+        tint.setAlpha(60);
+        painter.setBrush(tint);
+        painter.setPen(QPen(kMarkColour.lighter(115), qMax(1.0, outer * 0.2)));
+        painter.drawEllipse(centre, ring, ring);
+
+        // A short highlight on the upper left, as on glass.
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(QColor(255, 255, 255, 150), qMax(0.6, outer * 0.07), Qt::SolidLine, Qt::RoundCap));
+        painter.drawArc(QRectF(centre.x() - ring, centre.y() - ring, 2 * ring, 2 * ring), 100 * 16, 60 * 16);
     }
     painter.end();
     return image.convertToFormat(QImage::Format_ARGB32);

@@ -46,10 +46,20 @@ QPoint TestGuitarBoard::widgetPoint(const GuitarBoard& board, const QPoint& desi
 
 int TestGuitarBoard::litPlaces(GuitarBoard& board, const QList<QPoint>& places)
 {
+    // A mark is a ring around its string: look for its colour near the place.
     const QImage image = board.grab().toImage();
+    const int reach = qMax(2, board.width() / 100);
     int lit = 0;
-    for (const QPoint& place : places)
-        lit += isLightBlue(image.pixel(widgetPoint(board, place))) ? 1 : 0;
+    for (const QPoint& place : places) {
+        const QPoint centre = widgetPoint(board, place);
+        bool found = false;
+        for (int dy = -reach; dy <= reach && !found; ++dy) {
+            for (int dx = -reach; dx <= reach && !found; ++dx)
+                found = image.rect().contains(centre + QPoint(dx, dy))
+                    && isLightBlue(image.pixel(centre + QPoint(dx, dy)));
+        }
+        lit += found ? 1 : 0;
+    }
     return lit;
 }
 

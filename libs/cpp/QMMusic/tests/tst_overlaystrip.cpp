@@ -1,9 +1,12 @@
 #include "OverlayStrip.h"
 
+#include <QDir>
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
 #include <QtTest>
+
+#include <algorithm>
 
 using QMMusic::OverlayStrip;
 
@@ -27,6 +30,44 @@ QImage overlayWith(const QList<Mark>& marks, const QSize& size = QSize(800, 100)
 }
 
 const QRgb kBlue = qRgba(80, 208, 224, 255);
+
+bool isMarkPixel(QRgb pixel)
+{
+    return qBlue(pixel) > 50 || qRed(pixel) > 50;
+}
+
+// Column ranges of the marks of an overlay: its connected areas of mark pixels.
+QVector<QPair<int, int>> markExtents(const QImage& image)
+{
+    QVector<QPair<int, int>> extents;
+    QVector<bool> seen(image.width() * image.height(), false);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (seen[y * image.width() + x] || !isMarkPixel(image.pixel(x, y)))
+                continue;
+            QPair<int, int> extent(x, x);
+            QVector<QPoint> open { QPoint(x, y) };
+            seen[y * image.width() + x] = true;
+            while (!open.isEmpty()) {
+                const QPoint p = open.takeLast();
+                extent.first = qMin(extent.first, p.x());
+                extent.second = qMax(extent.second, p.x());
+                for (int dy = -1; dy <= 1; ++dy) {
+                    for (int dx = -1; dx <= 1; ++dx) {
+                        const QPoint q(p.x() + dx, p.y() + dy);
+                        if (!image.rect().contains(q) || seen[q.y() * image.width() + q.x()]
+                            || !isMarkPixel(image.pixel(q)))
+                            continue;
+                        seen[q.y() * image.width() + q.x()] = true;
+                        open.append(q);
+                    }
+                }
+            }
+            extents.append(extent);
+        }
+    }
+    return extents;
+}
 
 // First and last column holding anything but the transparent ground, or -1.
 QPair<int, int> paintedColumns(const QImage& image)
@@ -58,6 +99,8 @@ private slots:
     void findMarkColumn();
     void keepStrip_data();
     void keepStrip();
+    void everyStartShowsAWholeMark_data();
+    void everyStartShowsAWholeMark();
 };
 
 void TestOverlayStrip::findMarkColumn_data()
@@ -125,6 +168,65 @@ void TestOverlayStrip::keepStrip()
     const QPair<int, int> kept = paintedColumns(strip.toImage().convertToFormat(QImage::Format_ARGB32));
     QCOMPARE(kept.first, firstKept);
     QCOMPARE(kept.second, lastKept);
+}
+
+void TestOverlayStrip::everyStartShowsAWholeMark_data()
+{
+    QTest::addColumn<QString>("overlay");
+    QTest::addColumn<qreal>("ratio");
+
+    const QStringList overlays = QDir(QStringLiteral(":/")).entryList({ QStringLiteral("Guitar_*@2x.png") });
+    QCOMPARE(overlays.size(), 47);
+    for (const QString& overlay : overlays) {
+        for (qreal ratio : { 1.0, 2.0 })
+            QTest::addRow("%s at %gx", qPrintable(overlay), ratio) << overlay << ratio;
+    }
+}
+
+// Whatever column training starts its search from, the strip it keeps holds
+// one whole mark of the note: every start column of every overlay, at 1x and
+// 2x. The search is redone here over sorted mark columns per row, checked
+// against the real one every 61 columns, so that all 2048 starts stay quick.
+void TestOverlayStrip::everyStartShowsAWholeMark()
+{
+    QFETCH(QString, overlay);
+    QFETCH(qreal, ratio);
+
+    const QImage image = QImage(QStringLiteral(":/") + overlay).convertToFormat(QImage::Format_ARGB32);
+    QVERIFY(!image.isNull());
+    const QVector<QPair<int, int>> marks = markExtents(image);
+    QVERIFY(!marks.isEmpty());
+    QVector<QVector<int>> rows(image.height());
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (isMarkPixel(image.pixel(x, y)))
+                rows[y].append(x);
+        }
+    }
+
+    for (int start = 0; start < image.width(); ++start) {
+        int found = -1;
+        for (const QVector<int>& row : qAsConst(rows)) {
+            const auto after = std::upper_bound(row.begin(), row.end(), start);
+            if (after != row.begin())
+                found = *(after - 1);
+        }
+        if (found <= 0) {
+            for (const QVector<int>& row : qAsConst(rows)) {
+                const auto at = std::lower_bound(row.begin(), row.end(), start);
+                if (at != row.end())
+                    found = *at;
+            }
+        }
+        if (start % 61 == 0)
+            QCOMPARE(OverlayStrip::findMarkColumn(image, start), found);
+
+        const int keptFrom = int(found - 40 * ratio);
+        const int keptTo = int(found + 40 * ratio) - 1;
+        const bool whole = std::any_of(marks.begin(), marks.end(),
+            [=](const QPair<int, int>& mark) { return mark.first >= keptFrom && mark.second <= keptTo; });
+        QVERIFY2(whole, qPrintable(QStringLiteral("start column %1, found %2").arg(start).arg(found)));
+    }
 }
 
 QTEST_MAIN(TestOverlayStrip)
