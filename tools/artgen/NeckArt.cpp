@@ -449,7 +449,7 @@ QImage NeckArt::drawOverlay(const QString& stem, const QSize& size)
         QColor clear = kMarkColour;
         clear.setAlpha(0);
         QColor soft = kMarkColour;
-        soft.setAlpha(110);
+        soft.setAlpha(150);
         glow.setColorAt(0.0, clear);
         glow.setColorAt(0.55, clear);
         glow.setColorAt(0.74, soft);
@@ -461,7 +461,7 @@ QImage NeckArt::drawOverlay(const QString& stem, const QSize& size)
         QColor tint = kMarkColour;
         tint.setAlpha(60);
         painter.setBrush(tint);
-        painter.setPen(QPen(kMarkColour.lighter(115), qMax(1.0, outer * 0.2)));
+        painter.setPen(QPen(kMarkColour.lighter(115), qMax(1.0, outer * 0.27)));
         painter.drawEllipse(centre, ring, ring);
 
         // A short highlight on the upper left, as on glass.
