@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# Configures and builds the project into ./build (or $BUILD_DIR).
+# Configures and builds the project into ./build (or $BUILD_DIR); extra CMake
+# options come from $QM_CMAKE_ARGS.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${BUILD_DIR:-$root/build}
-cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=${BUILD_TYPE:-RelWithDebInfo}
+# shellcheck disable=SC2086
+cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=${BUILD_TYPE:-RelWithDebInfo} ${QM_CMAKE_ARGS:-}
 cmake --build "$build" --parallel "$(nproc)"
