@@ -26,6 +26,15 @@ if(QM_SANITIZE)
     # The generators run during the build: what they keep until exit is no fault of the pictures.
     set(QM_TOOL_ENV ASAN_OPTIONS=detect_leaks=0)
 endif()
+
+# Fuzzing targets (clang only): the libraries get the fuzzer's coverage
+# instrumentation and the sanitizers; each target links libFuzzer's main.
+option(QM_FUZZ "Build the fuzzing targets (needs clang)" OFF)
+if(QM_FUZZ)
+    set(QM_FUZZ_FLAGS -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined)
+    target_compile_options(qm_common INTERFACE ${QM_FUZZ_FLAGS})
+    target_link_options(qm_common INTERFACE -fsanitize=address,undefined)
+endif()
 target_compile_definitions(qm_common INTERFACE
     QT_DEPRECATED_WARNINGS_SINCE=0x050F00)
 
