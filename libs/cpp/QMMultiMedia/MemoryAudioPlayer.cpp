@@ -1,5 +1,6 @@
 #include "MemoryAudioPlayer.h"
 
+#include "DecodedSoundCache.h"
 #include "OutputBudget.h"
 #include "PlaybackArithmetic.h"
 #include "PulseStream.h"
@@ -27,7 +28,7 @@ MemoryAudioPlayer::~MemoryAudioPlayer()
 
 bool MemoryAudioPlayer::load(const QString& path)
 {
-    return AudioFileDecoder::decode(path, &m_sound);
+    return DecodedSoundCache::shared().decode(path, &m_sound);
 }
 
 void MemoryAudioPlayer::setVolume(float volume)

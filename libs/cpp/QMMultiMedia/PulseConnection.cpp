@@ -26,6 +26,7 @@ PulseConnection::State PulseConnection::state()
 {
     if (!m_mainloop)
         return State::Down;
+    closeRetired();
     if (m_context && !PA_CONTEXT_IS_GOOD(pa_context_get_state(m_context)))
         dropContext();
     if (!m_context)
@@ -41,6 +42,42 @@ PulseConnection::State PulseConnection::state()
 pa_context* PulseConnection::context() const
 {
     return m_context && pa_context_get_state(m_context) == PA_CONTEXT_READY ? m_context : nullptr;
+}
+
+pa_stream* PulseConnection::newStream(const pa_sample_spec* spec)
+{
+    pa_context* ready = context();
+    pa_stream* stream = ready ? pa_stream_new(ready, "sample", spec, nullptr) : nullptr;
+    if (stream)
+        ++m_streams;
+    return stream;
+}
+
+bool PulseConnection::hasRoom()
+{
+    closeRetired();
+    return m_streams < MaximumStreams;
+}
+
+void PulseConnection::retire(pa_stream* stream)
+{
+    m_retired.append(stream);
+    closeRetired();
+}
+
+void PulseConnection::closeRetired()
+{
+    for (int i = m_retired.size() - 1; i >= 0; --i) {
+        pa_stream* stream = m_retired.at(i);
+        const pa_stream_state_t state = pa_stream_get_state(stream);
+        if (state == PA_STREAM_CREATING)
+            continue;
+        if (state == PA_STREAM_READY)
+            pa_stream_disconnect(stream);
+        pa_stream_unref(stream);
+        m_retired.removeAt(i);
+        --m_streams;
+    }
 }
 
 void PulseConnection::connectContext()

@@ -1,8 +1,10 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QVector>
 
 struct pa_context;
+struct pa_sample_spec;
+struct pa_stream;
 struct pa_threaded_mainloop;
 
 namespace QMMultiMedia {
@@ -35,6 +37,16 @@ public:
     State state();
     // The context while the state is Ready, else null. Call with the lock held.
     pa_context* context() const;
+    // A new playback stream of the ready context, or null; it counts against
+    // MaximumStreams until retired and closed. Call with the lock held.
+    pa_stream* newStream(const pa_sample_spec* spec);
+    // Whether another stream may be made now. Call with the lock held.
+    bool hasRoom();
+    // Takes over a stream that is no longer wanted. One still being made on
+    // the server cannot be closed yet (it would live on there, unnoticed, up
+    // to the server's limit of streams): it is closed as soon as it can be.
+    // Call with the lock held.
+    void retire(pa_stream* stream);
 
     // Holds the loop's lock for one scope.
     class Locker
@@ -46,14 +58,21 @@ public:
         ~Locker();
     };
 
+    // Streams on the server at once, those being closed included: well below
+    // the server's limit of 256 per client, well above the players' budget.
+    static constexpr int MaximumStreams = 64;
+
 private:
     PulseConnection();
 
     void connectContext();
     void dropContext();
+    void closeRetired();
 
     pa_threaded_mainloop* m_mainloop = nullptr;
     pa_context* m_context = nullptr;
+    QVector<pa_stream*> m_retired;
+    int m_streams = 0;
 };
 
 } // namespace QMMultiMedia

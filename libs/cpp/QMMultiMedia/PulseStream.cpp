@@ -23,10 +23,8 @@ PulseStream::~PulseStream()
 {
     PulseConnection::Locker lock;
     finishOperation(&m_drain);
-    if (m_stream) {
-        pa_stream_disconnect(m_stream);
-        pa_stream_unref(m_stream);
-    }
+    if (m_stream)
+        PulseConnection::instance().retire(m_stream);
 }
 
 PulseStream::State PulseStream::state()
@@ -102,6 +100,10 @@ bool PulseStream::tryCreate()
         m_failed = server == PulseConnection::State::Down;
         return false;
     }
+    // Streams given up a moment ago may still live on the server: wait for
+    // them to go rather than run into the server's limit of streams.
+    if (!connection.hasRoom())
+        return false;
     pa_context* context = connection.context();
     pa_sample_spec spec;
     spec.format = PA_SAMPLE_S16LE;
@@ -111,7 +113,7 @@ bool PulseStream::tryCreate()
         m_failed = true;
         return false;
     }
-    m_stream = pa_stream_new(context, "sample", &spec, nullptr);
+    m_stream = connection.newStream(&spec);
     if (!m_stream) {
         m_failed = true;
         return false;
@@ -125,7 +127,7 @@ bool PulseStream::tryCreate()
     const auto flags = static_cast<pa_stream_flags_t>(
         PA_STREAM_ADJUST_LATENCY | (m_paused ? PA_STREAM_START_CORKED : PA_STREAM_NOFLAGS));
     if (pa_stream_connect_playback(m_stream, nullptr, &attributes, flags, nullptr, nullptr) < 0) {
-        pa_stream_unref(m_stream);
+        connection.retire(m_stream);
         m_stream = nullptr;
         m_failed = true;
         return false;
