@@ -1,0 +1,91 @@
+#!/usr/bin/env bash
+# Floods the real guitar window with clicks on the fretboard, as an
+# auto-clicker or a stuck mouse would, then checks that the window still
+# answers and that one more press sounds at the sink.
+#   scripts/flood-test.sh <build folder> [clicks]
+# Needs Xvfb, xdotool, ImageMagick, and the PulseAudio server with the null
+# sink that scripts/headless-sound.sh starts.
+set -euo pipefail
+build=$(cd "${1:?usage: $0 <build folder> [clicks]}" && pwd)
+clicks=${2:-1000}
+here=$(cd "$(dirname "$0")" && pwd)
+
+if [ "${FLOOD_INNER:-}" != 1 ]; then
+    FLOOD_INNER=1 exec xvfb-run -a -s "-screen 0 1280x800x24" "$here/flood-test.sh" "$build" "$clicks"
+fi
+
+work=$(mktemp -d)
+app_pid=""
+recorder_pid=""
+cleanup() {
+    [ -n "$recorder_pid" ] && kill "$recorder_pid" 2>/dev/null || true
+    [ -n "$app_pid" ] && kill "$app_pid" 2>/dev/null || true
+    rm -rf "$work"
+}
+trap cleanup EXIT
+fail() {
+    echo "flood test: FAILED: $*" >&2
+    exit 1
+}
+
+# A fresh home whose settings skip the introduction.
+export HOME=$work/home
+mkdir -p "$HOME/Library/Application Support/GuitarTonarium"
+printf '[GuitarTonarium]\nNeverShowItAgain=true\n' >"$HOME/Library/Application Support/GuitarTonarium/settings.plist"
+unset QT_QPA_PLATFORM
+"$build/bin/GuitarTonarium" &
+app_pid=$!
+window=$(timeout 20 xdotool search --sync --onlyvisible --name '^GuitarTonarium$' | head -1) || fail "no window"
+sleep 1
+
+# The colour of one pixel of the window.
+pixel() {
+    import -window "$window" -crop "1x1+$1+$2" -depth 8 txt:- 2>/dev/null | tail -1 | grep -o '#[0-9A-F]\{6\}'
+}
+# Waits until the pixel is no longer the given colour: the window has
+# painted what an event asked for. Prints the milliseconds it took.
+wait_for_change() {
+    local before=$3 start now
+    start=$(date +%s%N)
+    while [ "$(pixel "$1" "$2")" = "$before" ]; do
+        now=$(date +%s%N)
+        [ $(((now - start) / 1000000)) -lt 20000 ] || return 1
+    done
+    now=$(date +%s%N)
+    echo $(((now - start) / 1000000))
+}
+
+# The open A string near the nut, and the two mode buttons above the board.
+board_x=300 board_y=514 training_x=447 training_y=427 find_x=351 find_y=427 panel_x=400 panel_y=210
+
+start=$(date +%s%N)
+xdotool mousemove --window "$window" "$board_x" "$board_y" click --repeat "$clicks" --delay 0 1
+sent=$(date +%s%N)
+kill -0 "$app_pid" 2>/dev/null || fail "the program ended during the flood"
+rate=$((clicks * 1000000000 / (sent - start + 1)))
+
+# Does the window answer? Switch to training and wait for its panel: this
+# waits for the presses still queued too. Then back to Find Note, which the
+# window now answers at once.
+before=$(pixel "$panel_x" "$panel_y")
+xdotool mousemove --window "$window" "$training_x" "$training_y" click 1
+drained=$(wait_for_change "$panel_x" "$panel_y" "$before") || fail "the window did not answer within 20 s"
+before=$(pixel "$panel_x" "$panel_y")
+xdotool mousemove --window "$window" "$find_x" "$find_y" click 1
+answer=$(wait_for_change "$panel_x" "$panel_y" "$before") || fail "the window did not go back to Find Note"
+
+# One more press must be heard at the sink.
+parec -d null.monitor --format=s16le --rate=44100 --channels=1 --latency-msec=20 >"$work/heard.raw" &
+recorder_pid=$!
+sleep 0.5
+xdotool mousemove --window "$window" "$board_x" "$board_y" click 1
+sleep 2
+kill "$recorder_pid"
+wait "$recorder_pid" 2>/dev/null || true
+recorder_pid=""
+peak=$(sox -t raw -r 44100 -e signed -b 16 -c 1 "$work/heard.raw" -n stat 2>&1 | awk '/Maximum amplitude/ { print $3 }')
+awk -v peak="$peak" 'BEGIN { exit !(peak > 0.05) }' || fail "the press after the flood was not heard (peak $peak)"
+
+kill -0 "$app_pid" 2>/dev/null || fail "the program ended"
+echo "flood test: $clicks clicks at $rate a second; worked off after ${drained} ms; then a click was answered" \
+    "after ${answer} ms (including a screen grab); the next press peaked at $peak"
