@@ -24,6 +24,7 @@ if [ -z "$(ls -A "$seeds")" ]; then
     sox -n -r 8000 -c 1 -b 8 "$seeds/tone8.aiff" synth 0.05 sine 440
     sox -n -r 8000 -c 2 -b 16 "$seeds/tone16.aiff" synth 0.05 sine 440
 fi
+cp "$root"/libs/cpp/QMMultiMedia/fuzz/regressions/* "$seeds/"
 cd "$build"
 ./bin/fuzz_AudioFileDecoder -max_total_time="$seconds" -timeout=1 -rss_limit_mb=2048 -max_len=65536 \
     -print_final_stats=1 "$corpus" "$seeds"

@@ -7,6 +7,7 @@
 #include <sndfile.h>
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 
 namespace QMMultiMedia {
@@ -120,10 +121,52 @@ bool AudioFileDecoder::decodeMp3(const QString& path, DecodedSound* sound)
     return true;
 }
 
+namespace {
+
+// libsndfile reads the file from memory: its chunk parsers make many small
+// reads and seeks, and a damaged header (a comment chunk claiming tens of
+// thousands of entries, say) would otherwise cost seconds of system calls.
+struct MemoryFile
+{
+    QByteArray bytes;
+    sf_count_t position = 0;
+
+    static MemoryFile* of(void* data) { return static_cast<MemoryFile*>(data); }
+    static sf_count_t length(void* data) { return of(data)->bytes.size(); }
+    static sf_count_t seek(sf_count_t offset, int whence, void* data)
+    {
+        MemoryFile* file = of(data);
+        const sf_count_t base = whence == SEEK_CUR ? file->position : whence == SEEK_END ? file->bytes.size() : 0;
+        const sf_count_t target = base + offset;
+        if (target < 0 || target > file->bytes.size())
+            return -1;
+        file->position = target;
+        return target;
+    }
+    static sf_count_t read(void* target, sf_count_t count, void* data)
+    {
+        MemoryFile* file = of(data);
+        const sf_count_t available = qBound(sf_count_t(0), file->bytes.size() - file->position, count);
+        std::memcpy(target, file->bytes.constData() + file->position, static_cast<size_t>(available));
+        file->position += available;
+        return available;
+    }
+    static sf_count_t write(const void*, sf_count_t, void*) { return 0; }
+    static sf_count_t tell(void* data) { return of(data)->position; }
+};
+
+} // namespace
+
 bool AudioFileDecoder::decodeWithSndfile(const QString& path, DecodedSound* sound)
 {
+    QFile source(path);
+    if (!source.open(QIODevice::ReadOnly))
+        return false;
+    MemoryFile memory { source.readAll(), 0 };
+    SF_VIRTUAL_IO io { &MemoryFile::length, &MemoryFile::seek, &MemoryFile::read, &MemoryFile::write,
+        &MemoryFile::tell };
     SF_INFO info = {};
-    std::unique_ptr<SNDFILE, SndfileCloser> file(sf_open(QFile::encodeName(path).constData(), SFM_READ, &info));
+    std::unique_ptr<SNDFILE, SndfileCloser> file(sf_open_virtual(&io, SFM_READ, &info, &memory));
     if (!file || !plausibleFormat(info.samplerate, info.channels) || info.frames <= 0
         || info.frames > sampleCeiling(info.samplerate, info.channels) / info.channels)
         return false;
