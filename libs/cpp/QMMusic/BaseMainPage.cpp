@@ -2,6 +2,7 @@
 
 #include "MusicShopBase.h"
 #include "PromoMenuBar.h"
+#include "TranslatedTexts.h"
 
 #include <QAction>
 #include <QDesktopServices>
@@ -43,25 +44,28 @@ void BaseMainPage::doShopConnections()
     struct Entry
     {
         const char* icon;
-        QString text;
+        const char* text;
         void (BaseMainPage::*slot)();
     };
     const Entry shelves[] = {
-        { ":/musthave.png", tr("Must Have"), &BaseMainPage::slotMustHave },
-        { ":/nicetohave.png", tr("Nice to Have"), &BaseMainPage::slotNiceToHave },
-        { ":/read.png", tr("Read"), &BaseMainPage::slotRead },
-        { ":/ohr.png", tr("Hear"), &BaseMainPage::slotHear },
-        { ":/eye.png", tr("See"), &BaseMainPage::slotSee },
+        { ":/musthave.png", QT_TR_NOOP("Must Have"), &BaseMainPage::slotMustHave },
+        { ":/nicetohave.png", QT_TR_NOOP("Nice to Have"), &BaseMainPage::slotNiceToHave },
+        { ":/read.png", QT_TR_NOOP("Read"), &BaseMainPage::slotRead },
+        { ":/ohr.png", QT_TR_NOOP("Hear"), &BaseMainPage::slotHear },
+        { ":/eye.png", QT_TR_NOOP("See"), &BaseMainPage::slotSee },
     };
+    auto* texts = new QMWidgets::TranslatedTexts(this, staticMetaObject.className());
 
     m_promoMenuBar->addMenuSeparator();
     for (const Entry& entry : shelves) {
-        auto* action = new QAction(QIcon(QPixmap(QLatin1String(entry.icon))), entry.text, this);
+        auto* action = new QAction(QIcon(QPixmap(QLatin1String(entry.icon))), QString(), this);
+        texts->setText(action, entry.text);
         connect(action, &QAction::triggered, this, entry.slot);
         m_promoMenuBar->addMenuAction(action);
     }
     m_promoMenuBar->addMenuSeparator();
-    auto* wikipedia = new QAction(QIcon(QPixmap(QStringLiteral(":/wikipedia.png"))), tr("Wikipedia"), this);
+    auto* wikipedia = new QAction(QIcon(QPixmap(QStringLiteral(":/wikipedia.png"))), QString(), this);
+    texts->setText(wikipedia, QT_TR_NOOP("Wikipedia"));
     connect(wikipedia, &QAction::triggered, this, &BaseMainPage::slotWikipedia);
     m_promoMenuBar->addMenuAction(wikipedia);
 }

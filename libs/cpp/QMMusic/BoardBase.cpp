@@ -6,6 +6,7 @@
 #include "NoteSpelling.h"
 #include "OverlayStrip.h"
 #include "TrainingDraw.h"
+#include "TranslatedTexts.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -22,7 +23,10 @@ BoardBase::BoardBase(const QString& instrumentKey, QWidget* parent)
     QMMultiMedia::AudioPoolPlayer::instance()->setVolume(50);
     createLayers();
 
-    const BoardModeSwitch modeSwitch(this, tr("Find Note"), tr("Training"));
+    const BoardModeSwitch modeSwitch(this, QString(), QString());
+    auto* texts = new QMWidgets::TranslatedTexts(this, staticMetaObject.className());
+    texts->setText(modeSwitch.findNoteButton(), QT_TR_NOOP("Find Note"));
+    texts->setText(modeSwitch.trainingButton(), QT_TR_NOOP("Training"));
     m_trainingButton = modeSwitch.trainingButton();
     connect(m_trainingButton, &QPushButton::clicked, this, &BoardBase::traningSelected);
     connect(modeSwitch.findNoteButton(), &QPushButton::clicked, this, &BoardBase::findNoteSelected);

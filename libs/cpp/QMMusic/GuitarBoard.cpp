@@ -6,6 +6,7 @@
 #include "NoteSpelling.h"
 #include "OverlayStrip.h"
 #include "TrainingDraw.h"
+#include "TranslatedTexts.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -26,7 +27,10 @@ GuitarBoard::GuitarBoard(QWidget* parent)
             QStringLiteral(":/Guitar_") + stem + QStringLiteral("@2x.png"));
     }
 
-    const BoardModeSwitch modeSwitch(this, tr("Find Note"), tr("Training"));
+    const BoardModeSwitch modeSwitch(this, QString(), QString());
+    auto* texts = new QMWidgets::TranslatedTexts(this, staticMetaObject.className());
+    texts->setText(modeSwitch.findNoteButton(), QT_TR_NOOP("Find Note"));
+    texts->setText(modeSwitch.trainingButton(), QT_TR_NOOP("Training"));
     m_trainingButton = modeSwitch.trainingButton();
     connect(m_trainingButton, &QPushButton::clicked, this, &GuitarBoard::traningSelected);
     connect(modeSwitch.findNoteButton(), &QPushButton::clicked, this, &GuitarBoard::findNoteSelected);

@@ -2,6 +2,7 @@
 
 #include "NotesLernBar.h"
 #include "NotesLernReportDialog.h"
+#include "TranslatedTexts.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -15,7 +16,9 @@ NotesLernStatistic::NotesLernStatistic(QWidget* parent)
     m_bar = new NotesLernBar(this);
     m_rightLabel = new QLabel(this);
     m_wrongLabel = new QLabel(this);
-    m_reportButton = new QPushButton(tr("Full Report"), this);
+    m_reportButton = new QPushButton(this);
+    (new QMWidgets::TranslatedTexts(this, staticMetaObject.className()))
+        ->setText(m_reportButton, QT_TR_NOOP("Full Report"));
     m_reportButton->setObjectName(QStringLiteral("PushButton"));
     m_reportButton->setMinimumHeight(32);
     connect(m_reportButton, &QPushButton::clicked, this, &NotesLernStatistic::slotShowReport);

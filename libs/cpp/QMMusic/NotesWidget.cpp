@@ -52,7 +52,7 @@ NotesWidget::NotesWidget(QWidget* parent)
 
     setAttribute(Qt::WA_MouseTracking);
 
-    m_solfege = { tr("do"), tr("re"), tr("mi"), tr("fa"), tr("sol"), tr("la"), tr("si") };
+    translateSolfege();
 
     m_noteLabel = new QLabel(this);
     m_noteLabel->setObjectName(QStringLiteral("NoteLabel"));
@@ -246,6 +246,18 @@ void NotesWidget::generateNamePosMap()
     const QMap<QString, int> positions = staffGeometry().namePositions(m_instrumentName);
     for (auto it = positions.constBegin(); it != positions.constEnd(); ++it)
         m_namePosMap.insert(it.key(), it.value());
+}
+
+void NotesWidget::translateSolfege()
+{
+    m_solfege = { tr("do"), tr("re"), tr("mi"), tr("fa"), tr("sol"), tr("la"), tr("si") };
+}
+
+void NotesWidget::changeEvent(QEvent* event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        translateSolfege();
 }
 
 void NotesWidget::resizeEvent(QResizeEvent* event)

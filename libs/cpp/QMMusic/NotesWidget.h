@@ -60,6 +60,7 @@ public slots:
     void slotSetNatural();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -70,6 +71,7 @@ protected:
 private:
     StaffGeometry staffGeometry() const;
     void generateNamePosMap();
+    void translateSolfege();
     void regenerateKeys(const StaffGeometry& geometry);
     void drawNote(QPainter& painter, const StaffGeometry& geometry);
     void checkSignButton(QPushButton* button);

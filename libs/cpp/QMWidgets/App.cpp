@@ -60,10 +60,6 @@ App::App(int& argc, char** argv, const QString& organizationName, const QString&
 
     connect(App_mac::instance(), &App_mac::dockClicked, this, &App::dockClicked);
 
-    m_legalNotices = tr("<H3>This Application Uses:</H3>") + QStringLiteral("Qt ") + QStringLiteral("5")
-        + QStringLiteral(" Framework<BR>") + QStringLiteral("<a href=\"%1\">%1</a>").arg(CorvaneSite::qtWebSite)
-        + QStringLiteral("<BR>");
-
     m_openDirPath = workDirectory(true);
     m_saveDirPath = m_openDirPath;
 
@@ -565,6 +561,11 @@ void App::setSandboxed(bool on)
 
 QString App::legalNotices() const
 {
+    // Made when asked for, so that it is in the language loaded by then.
+    if (m_legalNotices.isNull())
+        return tr("<H3>This Application Uses:</H3>") + QStringLiteral("Qt ") + QStringLiteral("5")
+            + QStringLiteral(" Framework<BR>") + QStringLiteral("<a href=\"%1\">%1</a>").arg(CorvaneSite::qtWebSite)
+            + QStringLiteral("<BR>");
     return m_legalNotices;
 }
 

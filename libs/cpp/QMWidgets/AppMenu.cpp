@@ -1,6 +1,7 @@
 #include "AppMenu.h"
 
 #include "App.h"
+#include "TranslatedTexts.h"
 
 #include <QAction>
 #include <QIcon>
@@ -11,21 +12,25 @@ AppMenu::AppMenu(QWidget* parent)
     : QMenu(parent)
 {
     App* app = App::theApp();
+    auto* texts = new TranslatedTexts(this, staticMetaObject.className());
+    const auto add = [this, texts](const QString& icon, const char* text, auto receiver, auto slot) {
+        QAction* action = addAction(QIcon(icon), QString(), receiver, slot);
+        texts->setText(action, text);
+        return action;
+    };
 
     if (App::isAppStore())
-        m_rateAction = addAction(QIcon(QStringLiteral(":/star.png")), tr("Rate this App"), app, &App::slotRateApp);
-    m_shareAction = addAction(QIcon(QStringLiteral(":/share_hover.png")), tr("Share"), app, &App::slotShareApp);
-    m_joinAction = addAction(QIcon(QStringLiteral(":/join_hover.png")), tr("Join Us"), app, &App::slotJoin);
-    m_moreAppsAction
-        = addAction(QIcon(QStringLiteral(":/moreappsicon.png")), tr("More Apps"), app, &App::slotShowMoreApps);
-    addAction(QIcon(QStringLiteral(":/feedback.png")), tr("Contacts Us"), app, &App::slotContactUs);
-    m_supportPageAction
-        = addAction(QIcon(QStringLiteral(":/webpage.png")), tr("Support Page"), app, &App::slotSupportPage);
+        m_rateAction = add(QStringLiteral(":/star.png"), QT_TR_NOOP("Rate this App"), app, &App::slotRateApp);
+    m_shareAction = add(QStringLiteral(":/share_hover.png"), QT_TR_NOOP("Share"), app, &App::slotShareApp);
+    m_joinAction = add(QStringLiteral(":/join_hover.png"), QT_TR_NOOP("Join Us"), app, &App::slotJoin);
+    m_moreAppsAction = add(QStringLiteral(":/moreappsicon.png"), QT_TR_NOOP("More Apps"), app, &App::slotShowMoreApps);
+    add(QStringLiteral(":/feedback.png"), QT_TR_NOOP("Contacts Us"), app, &App::slotContactUs);
+    m_supportPageAction = add(QStringLiteral(":/webpage.png"), QT_TR_NOOP("Support Page"), app, &App::slotSupportPage);
     if (!App::isAppStore())
-        m_rateAction = addAction(QIcon(QStringLiteral(":/star.png")), tr("Check Updates"), app, &App::slotCheckUpdate);
-    addAction(QIcon(QStringLiteral(":/appicon.png")), tr("About"), app, &App::slotAbout);
+        m_rateAction = add(QStringLiteral(":/star.png"), QT_TR_NOOP("Check Updates"), app, &App::slotCheckUpdate);
+    add(QStringLiteral(":/appicon.png"), QT_TR_NOOP("About"), app, &App::slotAbout);
     addSeparator();
-    addAction(tr("Quit"), this, &AppMenu::quitPressed);
+    texts->setText(addAction(QString(), this, &AppMenu::quitPressed), QT_TR_NOOP("Quit"));
 }
 
 void AppMenu::hideAction(QAction* action)

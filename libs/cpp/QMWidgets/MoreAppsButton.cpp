@@ -1,6 +1,7 @@
 #include "MoreAppsButton.h"
 
 #include "PromoMenuBar.h"
+#include "TranslatedTexts.h"
 
 #include <QAction>
 #include <QDesktopServices>
@@ -17,7 +18,7 @@ MoreAppsButton::MoreAppsButton(QWidget* parent)
     , m_mapper(new QSignalMapper(this))
 {
     setObjectName(QStringLiteral("MoreAppsButton"));
-    setToolTip(tr("More Apps"));
+    (new TranslatedTexts(this, staticMetaObject.className()))->setToolTip(this, QT_TR_NOOP("More Apps"));
     setFlat(true);
     setMenu(m_menu);
     connect(m_mapper, &QSignalMapper::mappedString, this, &MoreAppsButton::slotCallUrl);

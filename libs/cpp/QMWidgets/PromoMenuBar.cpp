@@ -3,6 +3,7 @@
 #include "App.h"
 #include "AppButton.h"
 #include "CorvaneSite.h"
+#include "TranslatedTexts.h"
 
 #include <QAction>
 #include <QDesktopServices>
@@ -28,15 +29,22 @@ PromoMenuBar::PromoMenuBar(QWidget* parent)
     setObjectName(QStringLiteral("MenuBar"));
     connect(m_mapper, &QSignalMapper::mappedString, this, &PromoMenuBar::slotCallUrl);
 
-    m_introButton = makeButton(QStringLiteral("IntroButton"), tr("Introduction"));
-    m_moreButton = makeButton(QStringLiteral("MoreButton"), tr("More"));
-    m_rateButton = makeButton(QStringLiteral("RateButton"), tr("Rate App"));
-    m_moreAppsButton = makeButton(QStringLiteral("MoreAppsButton"), tr("More Apps"));
-    m_shareButton = makeButton(QStringLiteral("ShareButton"), tr("Share"));
-    m_joinButton = makeButton(QStringLiteral("JoinButton"), tr("Join Us"));
+    m_texts = new TranslatedTexts(this, staticMetaObject.className());
+    m_introButton = makeButton(QStringLiteral("IntroButton"), QString());
+    m_texts->setText(m_introButton, QT_TR_NOOP("Introduction"));
+    m_moreButton = makeButton(QStringLiteral("MoreButton"), QString());
+    m_texts->setText(m_moreButton, QT_TR_NOOP("More"));
+    m_rateButton = makeButton(QStringLiteral("RateButton"), QString());
+    m_texts->setText(m_rateButton, QT_TR_NOOP("Rate App"));
+    m_moreAppsButton = makeButton(QStringLiteral("MoreAppsButton"), QString());
+    m_texts->setText(m_moreAppsButton, QT_TR_NOOP("More Apps"));
+    m_shareButton = makeButton(QStringLiteral("ShareButton"), QString());
+    m_texts->setText(m_shareButton, QT_TR_NOOP("Share"));
+    m_joinButton = makeButton(QStringLiteral("JoinButton"), QString());
+    m_texts->setText(m_joinButton, QT_TR_NOOP("Join Us"));
     m_appButton = new AppButton(this);
     m_appButton->setObjectName(QStringLiteral("AppButton"));
-    m_appButton->setToolTip(tr("App Menu"));
+    m_texts->setToolTip(m_appButton, QT_TR_NOOP("App Menu"));
     m_appButton->setFlat(true);
     m_appButton->setFixedSize(kButtonSize);
 
@@ -126,8 +134,9 @@ void PromoMenuBar::addMenuSeparator()
 void PromoMenuBar::addMoreAppsLink()
 {
     m_shopMenu->addSeparator();
-    m_shopMenu->addAction(
-        QIcon(QStringLiteral(":/moreappsicon.png")), tr("More Apps"), App::theApp(), &App::slotShowMoreApps);
+    m_texts->setText(m_shopMenu->addAction(
+                         QIcon(QStringLiteral(":/moreappsicon.png")), QString(), App::theApp(), &App::slotShowMoreApps),
+        QT_TR_NOOP("More Apps"));
     m_shopMenu->addSeparator();
 }
 

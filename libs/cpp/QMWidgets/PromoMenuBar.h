@@ -10,6 +10,8 @@ class QSignalMapper;
 
 namespace QMWidgets {
 
+class TranslatedTexts;
+
 class AppButton;
 
 // The bar along the top of a page: the "More" drop-down of product and shop
@@ -56,6 +58,7 @@ public slots:
     void slotCallUrl(const QString& url);
 
 private:
+    TranslatedTexts* m_texts = nullptr;
     QPushButton* makeButton(const QString& objectName, const QString& toolTip);
 
     QMenu* m_shopMenu = nullptr;

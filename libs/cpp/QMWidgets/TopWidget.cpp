@@ -4,6 +4,7 @@
 #include "Common.h"
 #include "IconLabel.h"
 #include "TitleLabel.h"
+#include "TranslatedTexts.h"
 
 #include <QAction>
 #include <QBitmap>
@@ -34,9 +35,13 @@ TopWidget::TopWidget(bool overlay, QWidget* parent)
     m_titleLabel->setFixedHeight(28);
     m_titleLabel->setAlignment(Qt::AlignCenter);
 
-    m_closeButton = makeTitleButton(m_titleLabel, QStringLiteral("TopWidgetClose"), tr("Close"));
-    m_maximizeButton = makeTitleButton(m_titleLabel, QStringLiteral("TopWidgetMaximize"), tr("Maximize"));
-    m_minimizeButton = makeTitleButton(m_titleLabel, QStringLiteral("TopWidgetMinimize"), tr("Minimize"));
+    auto* texts = new TranslatedTexts(this, staticMetaObject.className());
+    m_closeButton = makeTitleButton(m_titleLabel, QStringLiteral("TopWidgetClose"), QString());
+    texts->setToolTip(m_closeButton, QT_TR_NOOP("Close"));
+    m_maximizeButton = makeTitleButton(m_titleLabel, QStringLiteral("TopWidgetMaximize"), QString());
+    texts->setToolTip(m_maximizeButton, QT_TR_NOOP("Maximize"));
+    m_minimizeButton = makeTitleButton(m_titleLabel, QStringLiteral("TopWidgetMinimize"), QString());
+    texts->setToolTip(m_minimizeButton, QT_TR_NOOP("Minimize"));
     m_iconLabel = new IconLabel(m_titleLabel);
     m_iconLabel->setFixedSize(24, 24);
     m_iconLabel->hide();
