@@ -31,17 +31,17 @@ PromoMenuBar::PromoMenuBar(QWidget* parent)
 
     m_texts = new TranslatedTexts(this, staticMetaObject.className());
     m_introButton = makeButton(QStringLiteral("IntroButton"), QString());
-    m_texts->setText(m_introButton, QT_TR_NOOP("Introduction"));
+    m_texts->setToolTip(m_introButton, QT_TR_NOOP("Introduction"));
     m_moreButton = makeButton(QStringLiteral("MoreButton"), QString());
-    m_texts->setText(m_moreButton, QT_TR_NOOP("More"));
+    m_texts->setToolTip(m_moreButton, QT_TR_NOOP("More"));
     m_rateButton = makeButton(QStringLiteral("RateButton"), QString());
-    m_texts->setText(m_rateButton, QT_TR_NOOP("Rate App"));
+    m_texts->setToolTip(m_rateButton, QT_TR_NOOP("Rate App"));
     m_moreAppsButton = makeButton(QStringLiteral("MoreAppsButton"), QString());
-    m_texts->setText(m_moreAppsButton, QT_TR_NOOP("More Apps"));
+    m_texts->setToolTip(m_moreAppsButton, QT_TR_NOOP("More Apps"));
     m_shareButton = makeButton(QStringLiteral("ShareButton"), QString());
-    m_texts->setText(m_shareButton, QT_TR_NOOP("Share"));
+    m_texts->setToolTip(m_shareButton, QT_TR_NOOP("Share"));
     m_joinButton = makeButton(QStringLiteral("JoinButton"), QString());
-    m_texts->setText(m_joinButton, QT_TR_NOOP("Join Us"));
+    m_texts->setToolTip(m_joinButton, QT_TR_NOOP("Join Us"));
     m_appButton = new AppButton(this);
     m_appButton->setObjectName(QStringLiteral("AppButton"));
     m_texts->setToolTip(m_appButton, QT_TR_NOOP("App Menu"));

@@ -106,6 +106,31 @@ private slots:
         QCOMPARE(quit.count(), 1);
     }
 
+    void barButtonsShowPicturesAndNameThemInToolTips_data()
+    {
+        QTest::addColumn<QString>("objectName");
+        QTest::addColumn<QString>("toolTip");
+        QTest::newRow("intro") << "IntroButton" << "Introduction";
+        QTest::newRow("more") << "MoreButton" << "More";
+        QTest::newRow("rate") << "RateButton" << "Rate App";
+        QTest::newRow("more apps") << "MoreAppsButton" << "More Apps";
+        QTest::newRow("share") << "ShareButton" << "Share";
+        QTest::newRow("join") << "JoinButton" << "Join Us";
+        QTest::newRow("app menu") << "AppButton" << "App Menu";
+    }
+
+    // A text would be painted over the style sheet's picture.
+    void barButtonsShowPicturesAndNameThemInToolTips()
+    {
+        QFETCH(QString, objectName);
+        QFETCH(QString, toolTip);
+        PromoMenuBar bar;
+        auto* button = bar.findChild<QPushButton*>(objectName);
+        QVERIFY(button);
+        QCOMPARE(button->toolTip(), toolTip);
+        QCOMPARE(button->text(), QString());
+    }
+
     void shopMenuKeepsCallOrderAndOpensItsLinks()
     {
         const QString web = QStringLiteral("https://www.corvane.com/apps/chordtonarium/");
