@@ -110,13 +110,20 @@ private slots:
     {
         QTest::addColumn<QString>("objectName");
         QTest::addColumn<QString>("toolTip");
-        QTest::newRow("intro") << "IntroButton" << "Introduction";
-        QTest::newRow("more") << "MoreButton" << "More";
-        QTest::newRow("rate") << "RateButton" << "Rate App";
-        QTest::newRow("more apps") << "MoreAppsButton" << "More Apps";
-        QTest::newRow("share") << "ShareButton" << "Share";
-        QTest::newRow("join") << "JoinButton" << "Join Us";
-        QTest::newRow("app menu") << "AppButton" << "App Menu";
+        QTest::newRow("intro") << "IntroButton"
+                               << "Introduction";
+        QTest::newRow("more") << "MoreButton"
+                              << "More";
+        QTest::newRow("rate") << "RateButton"
+                              << "Rate App";
+        QTest::newRow("more apps") << "MoreAppsButton"
+                                   << "More Apps";
+        QTest::newRow("share") << "ShareButton"
+                               << "Share";
+        QTest::newRow("join") << "JoinButton"
+                              << "Join Us";
+        QTest::newRow("app menu") << "AppButton"
+                                  << "App Menu";
     }
 
     // A text would be painted over the style sheet's picture.
