@@ -1,8 +1,10 @@
 // Sound path figures on the machine at hand: press-to-sound latency from the
 // board's press handler to the first samples at the sink's monitor, the start
-// of a six-note chord, CPU while six notes sound and memory per player.
+// of a six-note chord, CPU while six notes sound, memory per player, how late
+// a player reports its end, and the GUI thread's time per press.
 // Needs a PulseAudio server with a sink "null" (scripts/headless-sound.sh).
 #include "App.h"
+#include "AudioFileDecoder.h"
 #include "AudioPlayersPool.h"
 #include "AudioPoolPlayer.h"
 #include "GuitarBoard.h"
@@ -16,6 +18,7 @@
 #include <malloc.h>
 #include <pulse/simple.h>
 #include <sys/resource.h>
+#include <time.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -118,6 +121,13 @@ double cpuSeconds()
     return usage.ru_utime.tv_sec + usage.ru_stime.tv_sec + (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
 }
 
+double threadCpuMilliseconds()
+{
+    timespec time {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return time.tv_sec * 1e3 + time.tv_nsec / 1e6;
+}
+
 qint64 residentBytes()
 {
     QFile statm(QStringLiteral("/proc/self/statm"));
@@ -152,6 +162,8 @@ private slots:
     void chordStart();
     void cpuWhileSixNotesSound();
     void memoryPerPlayer();
+    void finishedAfterTheSample();
+    void guiThreadPerPress();
 
 private:
     void waitForSilence();
@@ -278,6 +290,59 @@ void bench_sound::memoryPerPlayer()
         perPlayer / 1024.0, double(residentAfter - residentBefore) / players / 1024.0, players);
     QTest::setBenchmarkResult(perPlayer, QTest::BytesAllocated);
     QTRY_VERIFY_WITH_TIMEOUT(pool.players().isEmpty(), 4000);
+}
+
+void bench_sound::finishedAfterTheSample()
+{
+    const QString path = sample(QStringLiteral("A4"));
+    DecodedSound sound;
+    QVERIFY(AudioFileDecoder::decode(path, &sound));
+    const double length = 1e3 * sound.samples.size() / sound.channels / sound.sampleRate;
+    QVector<double> lateness;
+    for (int trial = 0; trial < 6; ++trial) {
+        waitForSilence();
+        NativeAudioPlayer player;
+        QSignalSpy finished(&player, &NativeAudioPlayer::finished);
+        QElapsedTimer clock;
+        clock.start();
+        player.play(path);
+        QVERIFY(finished.wait(int(length) + 3000));
+        lateness.append(clock.nsecsElapsed() / 1e6 - length);
+    }
+    std::sort(lateness.begin(), lateness.end());
+    qInfo("finished() after the end of a %.0f ms sample: median %.1f ms late, min %.1f, max %.1f", length,
+        median(lateness), lateness.first(), lateness.last());
+    QTest::setBenchmarkResult(median(lateness), QTest::WalltimeMilliseconds);
+}
+
+void bench_sound::guiThreadPerPress()
+{
+    QMMusic::GuitarBoard board;
+    board.resize(800, 194);
+    QPoint hit;
+    for (int x = 5; x < 800 && hit.isNull(); x += 20) {
+        if (!board.positionToNote(x, 97).isEmpty())
+            hit = QPoint(x, 97);
+    }
+    QVERIFY(!hit.isNull());
+    QVector<double> busy;
+    for (int trial = 0; trial < 40; ++trial) {
+        const double start = threadCpuMilliseconds();
+        QTest::mousePress(&board, Qt::LeftButton, {}, hit);
+        busy.append(threadCpuMilliseconds() - start);
+        QTest::mouseRelease(&board, Qt::LeftButton, {}, hit);
+        if (trial % 20 == 19)
+            waitForSilence();
+    }
+    // What each press cost while every play decoded its file.
+    DecodedSound sound;
+    const double decodeStart = threadCpuMilliseconds();
+    QVERIFY(AudioFileDecoder::decode(sample(QStringLiteral("E2")), &sound));
+    const double decoding = threadCpuMilliseconds() - decodeStart;
+    std::sort(busy.begin(), busy.end());
+    qInfo("GUI thread CPU per press: median %.2f ms, max %.2f (%d presses); decoding a sample costs %.2f ms",
+        median(busy), busy.last(), int(busy.size()), decoding);
+    QTest::setBenchmarkResult(median(busy), QTest::WalltimeMilliseconds);
 }
 
 int main(int argc, char** argv)
