@@ -1,6 +1,7 @@
 #include "GuitarSampleSynth.h"
 
 #include "ArtWriter.h"
+#include "NoteSpelling.h"
 #include "PcmWave.h"
 
 #include <QFile>
@@ -206,7 +207,7 @@ void GuitarSampleSynth::generate(ArtWriter& writer)
             encoder->start(QStringLiteral("lame"),
                 { QStringLiteral("--quiet"), QStringLiteral("-m"), QStringLiteral("m"), QStringLiteral("-V"),
                     QStringLiteral("4"), QStringLiteral("--noreplaygain"), wavePath,
-                    writer.bundlePath(QStringLiteral("guitar_440_%1.mp3").arg(stem(note))) });
+                    writer.bundlePath(QMMusic::NoteSpelling::sampleFileName(QStringLiteral("Guitar"), stem(note))) });
             running.push_back(std::move(encoder));
         }
         for (auto& encoder : running)

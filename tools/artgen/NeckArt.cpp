@@ -13,6 +13,7 @@
 #include <cmath>
 
 using QMMusic::GuitarFretMap;
+using QMMusic::NeckGeometry;
 
 namespace {
 

@@ -6,6 +6,7 @@
 #include <QtTest>
 
 using QMMusic::GuitarFretMap;
+using QMMusic::NeckGeometry;
 using QMMusic::NoteSpelling;
 
 namespace {

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QVector>
 
+namespace QMMusic {
+
 // The geometry of the drawn guitar neck in design units (800 by 194), taken
 // from the hit boxes so that the picture fits them: one straight line per
 // string through its box centres, fret wires midway between the columns,
@@ -43,3 +45,5 @@ private:
     double m_worstMiss = 0.0;
     QVector<double> m_wires;
 };
+
+} // namespace QMMusic

@@ -1,10 +1,12 @@
 #include "GuitarFretMap.h"
+#include "NeckGeometry.h"
 
 #include <QtTest>
 
 #include <cmath>
 
 using QMMusic::GuitarFretMap;
+using QMMusic::NeckGeometry;
 
 namespace {
 
@@ -102,23 +104,14 @@ void TestGuitarFretMap::stringsRunStraight_data()
 void TestGuitarFretMap::stringsRunStraight()
 {
     QFETCH(int, string);
-    double sx = 0, sy = 0, sxx = 0, sxy = 0;
+    const NeckGeometry neck;
     const int n = GuitarFretMap::ColumnCount;
-    for (int column = 0; column < n; ++column) {
-        const QPoint c = GuitarFretMap::centre(string, column);
-        sx += c.x();
-        sy += c.y();
-        sxx += double(c.x()) * c.x();
-        sxy += double(c.x()) * c.y();
-    }
-    const double slope = (n * sxy - sx * sy) / (n * sxx - sx * sx);
-    const double intercept = (sy - slope * sx) / n;
     // The measured centres scatter by up to about 3 units around the line
     // (string 3 the most); a mistyped digit lands much further away.
     double squares = 0;
     for (int column = 0; column < n; ++column) {
         const QPoint c = GuitarFretMap::centre(string, column);
-        const double miss = intercept + slope * c.x() - c.y();
+        const double miss = neck.stringY(string, c.x()) - c.y();
         squares += miss * miss;
         QVERIFY2(qAbs(miss) < 3.5, qPrintable(QStringLiteral("column %1 misses by %2").arg(column).arg(miss)));
     }

@@ -19,8 +19,8 @@ public:
     // The respelling table: ("B3", 1) gives "C4", ("C4", -1) gives "B3",
     // ("A2", -1) gives "Gd2". Accidentals below 0 act as flat, from 1 up as sharp.
     static QString stem(const QString& noteName, int accidental);
-    // Resources folder + lower-case instrument key + "_440_" + stem + ".mp3".
-    static QString samplePath(const QString& instrumentKey, const QString& stem);
+    // The sample's file name: lower-case instrument key + "_440_" + stem + ".mp3".
+    static QString sampleFileName(const QString& instrumentKey, const QString& stem);
 };
 
 } // namespace QMMusic

@@ -2,6 +2,7 @@
 
 #include "App.h"
 #include "AudioPoolPlayer.h"
+#include "NoteSamples.h"
 #include "NoteSpelling.h"
 
 #include <QHBoxLayout>
@@ -381,7 +382,7 @@ void NotesWidget::mousePressEvent(QMouseEvent* event)
         stem = NoteSpelling::stem(m_currentName, 1);
     else if (isFlat())
         stem = NoteSpelling::stem(m_currentName, -1);
-    playSample(NoteSpelling::samplePath(m_instrumentName, stem));
+    playSample(NoteSamples::path(m_instrumentName, stem));
 }
 
 void NotesWidget::playSample(const QString& path)

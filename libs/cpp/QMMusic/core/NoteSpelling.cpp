@@ -1,7 +1,5 @@
 #include "NoteSpelling.h"
 
-#include "App.h"
-
 namespace QMMusic {
 
 int NoteSpelling::positionAccidental(const QString& positionName)
@@ -46,11 +44,9 @@ QString NoteSpelling::stem(const QString& noteName, int accidental)
     return letter + octaveText;
 }
 
-QString NoteSpelling::samplePath(const QString& instrumentKey, const QString& stem)
+QString NoteSpelling::sampleFileName(const QString& instrumentKey, const QString& stem)
 {
-    const QMWidgets::App* app = QMWidgets::App::theApp();
-    const QString resources = app ? app->bundleResourcePath() : QString();
-    return resources + instrumentKey.toLower() + QStringLiteral("_440_") + stem + QStringLiteral(".mp3");
+    return instrumentKey.toLower() + QStringLiteral("_440_") + stem + QStringLiteral(".mp3");
 }
 
 } // namespace QMMusic

@@ -3,6 +3,7 @@
 #include "AudioPoolPlayer.h"
 #include "BoardModeSwitch.h"
 #include "GuitarFretMap.h"
+#include "NoteSamples.h"
 #include "NoteSpelling.h"
 #include "OverlayStrip.h"
 #include "TrainingDraw.h"
@@ -126,8 +127,7 @@ void GuitarBoard::mousePressEvent(QMouseEvent* event)
     const int sharp = NoteSpelling::positionAccidental(position);
     slotSetNote(name, sharp);
     emit noteChanged(name, sharp);
-    QMMultiMedia::AudioPoolPlayer::instance()->play(
-        NoteSpelling::samplePath(QStringLiteral("Guitar"), NoteSpelling::positionStem(position)));
+    NoteSamples::play(QStringLiteral("Guitar"), NoteSpelling::positionStem(position));
 }
 
 void GuitarBoard::resizeEvent(QResizeEvent* event)

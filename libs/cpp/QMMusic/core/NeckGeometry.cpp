@@ -4,7 +4,7 @@
 
 #include <QtMath>
 
-using QMMusic::GuitarFretMap;
+namespace QMMusic {
 
 namespace {
 
@@ -111,3 +111,5 @@ QVector<NeckGeometry::Place> NeckGeometry::places(const QString& stem)
     }
     return result;
 }
+
+} // namespace QMMusic
