@@ -29,18 +29,7 @@
     </message>
 </context>
 <context>
-    <name>QMMusic::BoardBase</name>
-    <message>
-        <source>Find Note</source>
-        <translation>Note finden</translation>
-    </message>
-    <message>
-        <source>Training</source>
-        <translation>Training</translation>
-    </message>
-</context>
-<context>
-    <name>QMMusic::GuitarBoard</name>
+    <name>QMMusic::BoardBehaviour</name>
     <message>
         <source>Find Note</source>
         <translation>Note finden</translation>

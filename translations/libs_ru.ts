@@ -29,18 +29,7 @@
     </message>
 </context>
 <context>
-    <name>QMMusic::BoardBase</name>
-    <message>
-        <source>Find Note</source>
-        <translation>Найти ноту</translation>
-    </message>
-    <message>
-        <source>Training</source>
-        <translation>Тренировка</translation>
-    </message>
-</context>
-<context>
-    <name>QMMusic::GuitarBoard</name>
+    <name>QMMusic::BoardBehaviour</name>
     <message>
         <source>Find Note</source>
         <translation>Найти ноту</translation>

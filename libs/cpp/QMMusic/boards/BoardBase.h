@@ -1,12 +1,10 @@
 #pragma once
 
-#include "BoardLayers.h"
+#include "BoardBehaviour.h"
 
 #include <QFrame>
 #include <QMap>
 #include <QVector>
-
-class QPushButton;
 
 namespace QMMusic {
 
@@ -51,14 +49,12 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
-    QString m_currentNote;
-    BoardLayers m_layers;
-    QMap<QString, QString> m_overlayMap;
-    QPushButton* m_trainingButton = nullptr;
-    bool m_inTraining = false;
-    QString m_instrumentKey;
+    // Filled by initNotes() of the concrete board.
     QList<QString> m_fileStems;
     QVector<QString> m_trainingNotes;
+
+private:
+    BoardBehaviour m_behaviour;
 };
 
 } // namespace QMMusic

@@ -1,13 +1,8 @@
 #include "GuitarBoard.h"
 
-#include "AudioPoolPlayer.h"
-#include "BoardModeSwitch.h"
 #include "GuitarFretMap.h"
-#include "NoteSamples.h"
 #include "NoteSpelling.h"
 #include "OverlayStrip.h"
-#include "TrainingDraw.h"
-#include "TranslatedTexts.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -17,24 +12,18 @@ namespace QMMusic {
 
 GuitarBoard::GuitarBoard(QWidget* parent)
     : QFrame(parent)
+    , m_behaviour(
+          this, QStringLiteral("Guitar"), [this](int x, int y) { return positionToNote(x, y); },
+          [this](const QString& name, int accidental) { emit noteChanged(name, accidental); })
 {
-    QMMultiMedia::AudioPoolPlayer::instance()->setVolume(50);
-
     // The 47 stems, E2 to D6, are the file spellings of the training notes.
-    m_trainingNotes = GuitarFretMap::noteOrder();
-    for (const QString& position : qAsConst(m_trainingNotes)) {
-        const QString stem = NoteSpelling::positionStem(position);
-        m_overlayMap.insert(QStringLiteral(":/Guitar_%1.png").arg(stem),
-            QStringLiteral(":/Guitar_") + stem + QStringLiteral("@2x.png"));
-    }
-
-    const BoardModeSwitch modeSwitch(this, QString(), QString());
-    auto* texts = new QMWidgets::TranslatedTexts(this, staticMetaObject.className());
-    texts->setText(modeSwitch.findNoteButton(), QT_TR_NOOP("Find Note"));
-    texts->setText(modeSwitch.trainingButton(), QT_TR_NOOP("Training"));
-    m_trainingButton = modeSwitch.trainingButton();
-    connect(m_trainingButton, &QPushButton::clicked, this, &GuitarBoard::traningSelected);
-    connect(modeSwitch.findNoteButton(), &QPushButton::clicked, this, &GuitarBoard::findNoteSelected);
+    const QVector<QString> positions = GuitarFretMap::noteOrder();
+    QList<QString> stems;
+    for (const QString& position : positions)
+        stems.append(NoteSpelling::positionStem(position));
+    m_behaviour.setNotes(stems, positions);
+    connect(m_behaviour.trainingButton(), &QPushButton::clicked, this, &GuitarBoard::traningSelected);
+    connect(m_behaviour.findNoteButton(), &QPushButton::clicked, this, &GuitarBoard::findNoteSelected);
 }
 
 QString GuitarBoard::positionToNote(int x, int y) const
@@ -54,88 +43,61 @@ QPixmap GuitarBoard::doSingleNote(const QPixmap& overlay)
 
 void GuitarBoard::setTrainButtonChecked()
 {
-    m_trainingButton->setChecked(true);
+    m_behaviour.trainingButton()->setChecked(true);
 }
 
 bool GuitarBoard::isInTraining() const
 {
-    return m_inTraining;
+    return m_behaviour.isInTraining();
 }
 
 QString GuitarBoard::currentNote() const
 {
-    return m_currentNote;
+    return m_behaviour.currentNote();
 }
 
 const QMap<QString, QString>& GuitarBoard::overlayMap() const
 {
-    return m_overlayMap;
+    return m_behaviour.overlayMap();
 }
 
 const QVector<QString>& GuitarBoard::trainingNotes() const
 {
-    return m_trainingNotes;
+    return m_behaviour.trainingNotes();
 }
 
 void GuitarBoard::slotSetNote(const QString& name, int accidental)
 {
-    m_currentNote = NoteSpelling::stem(name, accidental);
-    update();
+    m_behaviour.setNote(name, accidental);
 }
 
 void GuitarBoard::slotNextNote()
 {
-    if (m_trainingNotes.isEmpty())
-        return;
-    const QString position = TrainingDraw::pick(m_trainingNotes);
-    const QString name = NoteSpelling::positionNoteName(position);
-    const int sharp = NoteSpelling::positionAccidental(position);
-    slotSetNote(name, sharp);
-    emit noteChanged(name, sharp);
+    m_behaviour.nextNote();
 }
 
 void GuitarBoard::slotSetInTraining(bool inTraining)
 {
-    m_inTraining = inTraining;
-    update();
+    m_behaviour.setInTraining(inTraining);
 }
 
 void GuitarBoard::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
     QPainter painter(this);
-    m_layers.drawBackground(painter, rect());
-    if (m_currentNote.isEmpty())
-        return;
-    const QString file = m_overlayMap[QStringLiteral(":/Guitar_%1.png").arg(m_currentNote)];
-    if (m_inTraining)
-        BoardLayers::drawScaled(painter, rect(), doSingleNote(m_layers.overlay(file)));
-    else
-        m_layers.drawOverlay(painter, rect(), file);
+    m_behaviour.paint(painter, [this](const QPixmap& overlay) { return doSingleNote(overlay); });
 }
 
 void GuitarBoard::mousePressEvent(QMouseEvent* event)
 {
-    if (m_inTraining) {
+    if (!m_behaviour.press(event->pos()))
         QWidget::mousePressEvent(event);
-        return;
-    }
-    const QString position = positionToNote(event->pos().x(), event->pos().y());
-    if (position.isEmpty())
-        return;
-    const QString name = NoteSpelling::positionNoteName(position);
-    const int sharp = NoteSpelling::positionAccidental(position);
-    slotSetNote(name, sharp);
-    emit noteChanged(name, sharp);
-    NoteSamples::play(QStringLiteral("Guitar"), NoteSpelling::positionStem(position));
 }
 
 void GuitarBoard::resizeEvent(QResizeEvent* event)
 {
     QFrame::resizeEvent(event);
-    const int height = m_layers.heightForWidth(width());
-    if (height > 0)
-        setFixedHeight(height);
+    m_behaviour.fitHeight();
 }
 
 } // namespace QMMusic

@@ -1,12 +1,10 @@
 #pragma once
 
-#include "BoardLayers.h"
+#include "BoardBehaviour.h"
 
 #include <QFrame>
 #include <QMap>
 #include <QVector>
-
-class QPushButton;
 
 namespace QMMusic {
 
@@ -47,12 +45,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QString m_currentNote;
-    BoardLayers m_layers { QStringLiteral(":/Guitar_0@2x.jpg") };
-    QMap<QString, QString> m_overlayMap;
-    QPushButton* m_trainingButton = nullptr;
-    QVector<QString> m_trainingNotes;
-    bool m_inTraining = false;
+    BoardBehaviour m_behaviour;
 };
 
 } // namespace QMMusic
