@@ -5,8 +5,11 @@
 #include "BlenderWidget.h"
 #include "CorvaneSite.h"
 #include "HelpDialog.h"
+#include "MessageLog.h"
+#include "ProductLinks.h"
 #include "SettingsStore.h"
 #include "TranslationsManager.h"
+#include "UserDirectories.h"
 
 #include <QDateTime>
 #include <QDebug>
@@ -19,7 +22,6 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QSysInfo>
 #include <QTimer>
 #include <QUrl>
@@ -33,11 +35,6 @@ namespace {
 
 const char* const monthAbbreviations[]
     = { "Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec" };
-
-QString applicationNameLower()
-{
-    return QCoreApplication::applicationName().toLower();
-}
 
 } // namespace
 
@@ -120,84 +117,59 @@ QSettings* App::settings() const
 
 // ---- Directories
 
-QString App::homeSubDirectory(const QString& relative, bool create)
-{
-    const QString path
-        = QDir::homePath() + relative + QLatin1Char('/') + QCoreApplication::applicationName() + QLatin1Char('/');
-    if (create)
-        ensureDirExists(path);
-    return path;
-}
-
 QString App::supportDirectory(bool create)
 {
-    return homeSubDirectory(QStringLiteral("/Library/Application Support"), create);
+    return UserDirectories::support(create);
 }
 
 QString App::workDirectory(bool create)
 {
-    return homeSubDirectory(QStringLiteral("/Library"), create);
+    return UserDirectories::work(create);
 }
 
 QString App::cachesDirectory(bool create)
 {
-    return homeSubDirectory(QStringLiteral("/Library/Caches"), create);
+    return UserDirectories::caches(create);
 }
 
 QString App::picturesDirectory(bool create)
 {
-    return homeSubDirectory(QStringLiteral("/Pictures"), create);
+    return UserDirectories::pictures(create);
 }
 
 QString App::musicDirectory(bool create)
 {
-    return homeSubDirectory(QStringLiteral("/Music"), create);
+    return UserDirectories::music(create);
 }
 
 QString App::moviesDirectory(bool create)
 {
-    return homeSubDirectory(QStringLiteral("/Movies"), create);
+    return UserDirectories::movies(create);
 }
 
 QString App::downloadsDirectory(bool create)
 {
-    return homeSubDirectory(QStringLiteral("/Downloads"), create);
+    return UserDirectories::downloads(create);
 }
 
 QString App::documentsDirectory(bool create)
 {
-    const QString path = QStandardPaths::standardLocations(QStandardPaths::DocumentsLocation).value(0)
-        + QLatin1Char('/') + QCoreApplication::organizationName() + QLatin1Char('/')
-        + QCoreApplication::applicationName() + QLatin1Char('/');
-    if (create)
-        ensureDirExists(path);
-    return path;
+    return UserDirectories::documents(create);
 }
 
 QString App::dataDirectory(bool create)
 {
-    const QString path = QStandardPaths::standardLocations(QStandardPaths::AppLocalDataLocation).value(0);
-    if (create)
-        ensureDirExists(path);
-    return path;
+    return UserDirectories::data(create);
 }
 
 void App::ensureDirExists(const QString& path)
 {
-    if (!path.isEmpty() && !QDir(path).exists())
-        QDir().mkpath(path);
+    UserDirectories::ensureExists(path);
 }
 
 bool App::isFirstStartInternal()
 {
-    const QString paths[] = { supportDirectory(false), documentsDirectory(false), cachesDirectory(false),
-        dataDirectory(false), workDirectory(false), picturesDirectory(false), musicDirectory(false),
-        moviesDirectory(false), downloadsDirectory(false) };
-    for (const QString& path : paths) {
-        if (QDir(path).exists())
-            return false;
-    }
-    return true;
+    return UserDirectories::noneExists();
 }
 
 bool App::isFirstStart() const
@@ -419,49 +391,17 @@ QStringList App::introductionSlidesFor(const QString& resourcePath, const QStrin
 
 QString App::logLine(QtMsgType type, const QMessageLogContext& context, const QString& message, const QDateTime& time)
 {
-    const char* word = nullptr;
-    switch (type) {
-    case QtDebugMsg:
-        word = " Debug: ";
-        break;
-    case QtWarningMsg:
-        word = " Warning: ";
-        break;
-    case QtCriticalMsg:
-        word = " Critical: ";
-        break;
-    case QtFatalMsg:
-        word = " Fatal: ";
-        break;
-    default:
-        return QString();
-    }
-    return time.toString(QStringLiteral("dd.MM.yy-hh:mm")) + QLatin1String(word) + message + QStringLiteral(", ")
-        + QString::fromUtf8(context.file) + QLatin1Char('\n');
-}
-
-void App::terminalOutputToDummy(QtMsgType, const QMessageLogContext&, const QString&) { }
-
-void App::terminalOutputToFile(QtMsgType type, const QMessageLogContext& context, const QString& message)
-{
-    const QString line = logLine(type, context, message, QDateTime::currentDateTime());
-    if (line.isEmpty())
-        return;
-    QFile file(supportDirectory(true) + QStringLiteral("protocol.log"));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text))
-        return;
-    file.write(line.toUtf8());
-    file.close();
+    return MessageLog::line(type, context, message, time);
 }
 
 void App::disableTerminalOuput()
 {
-    qInstallMessageHandler(&App::terminalOutputToDummy);
+    MessageLog::silence();
 }
 
 void App::setTerminalOuputToFile()
 {
-    qInstallMessageHandler(&App::terminalOutputToFile);
+    MessageLog::toFile();
 }
 
 // ---- Build and platform information
@@ -578,125 +518,97 @@ void App::addLegalNotices(const QString& notices)
 
 void App::setAppId(const QString& id)
 {
-    m_appId = id;
+    m_links.setAppId(id);
 }
 
 QString App::appId() const
 {
-    return m_appId;
+    return m_links.appId();
 }
 
 void App::setAppSupportPage(const QString& page)
 {
-    m_appSupportPage = page;
+    m_links.setSupportPage(page);
 }
 
 QString App::appSupportPage() const
 {
-    return m_appSupportPage;
+    return m_links.supportPage();
 }
 
 void App::setFaceBookShareLink(const QString& link)
 {
-    m_faceBookShareLink = link;
+    m_links.setFaceBookShareLink(link);
 }
 
 QString App::faceBookShareLink() const
 {
-    return m_faceBookShareLink;
+    return m_links.faceBookShareLink();
 }
 
 void App::setTwitterShareLink(const QString& link)
 {
-    m_twitterShareLink = link;
+    m_links.setTwitterShareLink(link);
 }
 
 QString App::twitterShareLink() const
 {
-    return m_twitterShareLink;
+    return m_links.twitterShareLink();
 }
 
 void App::setVKontakteShareLink(const QString& link)
 {
-    m_vkontakteShareLink = link;
+    m_links.setVKontakteShareLink(link);
 }
 
 QString App::vkontakteShareLink() const
 {
-    return m_vkontakteShareLink;
+    return m_links.vkontakteShareLink();
 }
 
 void App::setPromotedAppNameAndID(const QString& name, const QString& id)
 {
-    m_promotedAppName = name;
-    m_promotedAppId = id;
+    m_links.setPromotedAppNameAndID(name, id);
 }
 
 void App::setPromotedLink(const QString& link)
 {
-    m_promotedLink = link;
+    m_links.setPromotedLink(link);
 }
 
 void App::setCorvaneLinks()
 {
-    const QString name = applicationNameLower() + QLatin1Char('/');
-    const QString base = QLatin1String(CorvaneSite::webHost) + QStringLiteral("/apps/");
-    m_faceBookShareLink = base + name + QStringLiteral("facebook.php");
-    m_twitterShareLink = base + name + QStringLiteral("twitter.php");
-    m_vkontakteShareLink = base + name + QStringLiteral("vkontakte.php");
-    m_appSupportPage = base + name;
+    m_links.setMakerLinks();
 }
 
 QString App::rateAppUrl() const
 {
-    return QLatin1String(CorvaneSite::storeHost) + QStringLiteral("/app/") + applicationNameLower() + QLatin1Char('/')
-        + m_appId + QStringLiteral("?ls=1&mt=12");
+    return m_links.rateAppUrl();
 }
 
 QString App::promotedAppUrl() const
 {
-    if (!m_promotedLink.isEmpty())
-        return m_promotedLink;
-    return QLatin1String(CorvaneSite::storeHost) + QStringLiteral("/app/") + m_promotedAppName.toLower()
-        + QLatin1Char('/') + m_promotedAppId + QStringLiteral("?ls=1&mt=12");
+    return m_links.promotedAppUrl();
 }
 
 QString App::moreAppsUrl() const
 {
-    return QLatin1String(CorvaneSite::webHost) + QStringLiteral("/apps");
+    return ProductLinks::moreAppsUrl();
 }
 
 QString App::supportPageUrl() const
 {
-    return m_appSupportPage.isEmpty() ? QString::fromLatin1(CorvaneSite::webHost) : m_appSupportPage;
+    return m_links.supportPageUrl();
 }
 
 QString App::contactUsLink() const
 {
-    const QString language = currentLanguage();
-    return QStringLiteral("mailto:") + QLatin1String(CorvaneSite::contactAddress) + QStringLiteral("?subject=Contact (")
-        + QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion()
-        + QStringLiteral(") ") + osInfo() + QLatin1Char(' ') + language + QLatin1Char(' ')
-        + (isAppStore() ? QString() : QStringLiteral("I")) + QStringLiteral("&body=");
+    return ProductLinks::contactUsLink(osInfo(), currentLanguage(), isAppStore());
 }
 
 QString App::tellFriendLink() const
 {
-    const QString name = QCoreApplication::applicationName();
-    QString productLink = m_appSupportPage;
-    if (productLink.isEmpty()) {
-        if (isAppStore())
-            productLink = QLatin1String(CorvaneSite::storeHost) + QLatin1Char('/') + currentLanguageOptimized()
-                + QStringLiteral("app/") + applicationNameLower() + QLatin1Char('/') + m_appId
-                + QStringLiteral("?ls=1&mt=12");
-        else
-            productLink = QLatin1String(CorvaneSite::webHost) + QStringLiteral("/apps/") + applicationNameLower()
-                + QStringLiteral(".html");
-    }
-    // These texts stay English: the friend's language is unknown.
-    return QStringLiteral("mailto:?subject=Check out the cool ") + name
-        + QStringLiteral(" app!&body=Hi, check out this cool ") + name
-        + QStringLiteral(" app - available in the App Stores: ") + productLink;
+    return m_links.tellFriendLink(isAppStore(), currentLanguageOptimized());
 }
 
 void App::slotRateApp()

@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QVariant>
 
+#include "ProductLinks.h"
+
 class QSettings;
 class QDateTime;
 
@@ -15,9 +17,10 @@ namespace QMWidgets {
 class BlenderWidget;
 class HelpDialog;
 
-// The application object: settings store, per-user directories, resource
-// paths, links of the product and the other services the whole frame
-// reaches through theApp().
+// The application object: what the whole frame reaches through theApp().
+// The settings, the per-user directories, the message log and the product's
+// links are classes of their own (SettingsStore, UserDirectories,
+// MessageLog, ProductLinks) that it hands on to.
 class App : public QApplication
 {
     Q_OBJECT
@@ -173,9 +176,6 @@ private slots:
     void nop_cuos();
 
 private:
-    static void terminalOutputToDummy(QtMsgType type, const QMessageLogContext& context, const QString& message);
-    static void terminalOutputToFile(QtMsgType type, const QMessageLogContext& context, const QString& message);
-    static QString homeSubDirectory(const QString& relative, bool create);
     static QString directoryOf(const QString& fileOrDir);
     QString settingsKey(const QString& key) const;
     QSize desktopSize() const;
@@ -186,20 +186,13 @@ private:
     QString m_openDirPath;
     QString m_saveDirPath;
     bool m_sandboxed = false;
-    QString m_appId;
+    ProductLinks m_links;
     QPointer<HelpDialog> m_helpDialog;
     QStringList m_introductionSlides;
-    QString m_promotedAppId;
-    QString m_promotedAppName;
-    QString m_promotedLink;
-    QString m_faceBookShareLink;
-    QString m_twitterShareLink;
-    QString m_vkontakteShareLink;
     bool m_oldSettingsMode = false;
     QString m_resourceOffset;
     QPointer<QWidget> m_mainWidget;
     QPointer<BlenderWidget> m_blender;
-    QString m_appSupportPage;
     QString m_bundleResourcePath;
     bool m_kidsMode = false;
     QString m_legalNotices;

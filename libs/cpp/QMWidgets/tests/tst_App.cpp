@@ -14,19 +14,6 @@ using QMWidgets::App;
 
 namespace {
 
-// Points the home directory at a fresh empty folder for as long as it lives.
-class ScopedHome
-{
-public:
-    ScopedHome() { qputenv("HOME", m_dir.path().toUtf8()); }
-    ~ScopedHome() { qputenv("HOME", m_previous); }
-    QString path() const { return m_dir.path(); }
-
-private:
-    QTemporaryDir m_dir;
-    QByteArray m_previous = qgetenv("HOME");
-};
-
 // Remembers where mouse presses and releases arrived.
 class MouseRecorder : public QWidget
 {
@@ -52,13 +39,7 @@ void writeFile(const QString& path, const QString& content)
         file.write(content.toUtf8());
 }
 
-using DirectoryFunction = QString (*)(bool);
-using Link = QString (App::*)() const;
-
 } // namespace
-
-Q_DECLARE_METATYPE(DirectoryFunction)
-Q_DECLARE_METATYPE(Link)
 
 class tst_App : public QObject
 {
@@ -105,83 +86,6 @@ private slots:
         app()->setOldSettingsMode(false);
         QCOMPARE(seen, seenByOther);
         QCOMPARE(app()->settings()->contains(key), oldMode);
-    }
-
-    void directoryPathsAndFirstStart_data()
-    {
-        QTest::addColumn<DirectoryFunction>("directory");
-        QTest::addColumn<QString>("relative");
-        QTest::newRow("support") << DirectoryFunction(&App::supportDirectory)
-                                 << "/Library/Application Support/TonariumTest/";
-        QTest::newRow("work") << DirectoryFunction(&App::workDirectory) << "/Library/TonariumTest/";
-        QTest::newRow("caches") << DirectoryFunction(&App::cachesDirectory) << "/Library/Caches/TonariumTest/";
-        QTest::newRow("pictures") << DirectoryFunction(&App::picturesDirectory) << "/Pictures/TonariumTest/";
-        QTest::newRow("music") << DirectoryFunction(&App::musicDirectory) << "/Music/TonariumTest/";
-        QTest::newRow("movies") << DirectoryFunction(&App::moviesDirectory) << "/Movies/TonariumTest/";
-        QTest::newRow("downloads") << DirectoryFunction(&App::downloadsDirectory) << "/Downloads/TonariumTest/";
-        QTest::newRow("documents hold the organisation")
-            << DirectoryFunction(&App::documentsDirectory) << "/Documents/Corvane/TonariumTest/";
-        QTest::newRow("data without slash")
-            << DirectoryFunction(&App::dataDirectory) << "/.local/share/Corvane/TonariumTest";
-    }
-
-    void directoryPathsAndFirstStart()
-    {
-        QFETCH(DirectoryFunction, directory);
-        QFETCH(QString, relative);
-        ScopedHome home;
-        const QString path = directory(false);
-        QCOMPARE(path, home.path() + relative);
-        QVERIFY2(!QDir(path).exists(), "asking without create must not create");
-        QVERIFY(App::isFirstStartInternal());
-        QCOMPARE(directory(true), path);
-        QVERIFY(QDir(path).exists());
-        // Any one of the application's directories tells that it ran before.
-        QVERIFY(!App::isFirstStartInternal());
-    }
-
-    void unrelatedFoldersMeanAFirstStart()
-    {
-        ScopedHome home;
-        QDir().mkpath(home.path() + QStringLiteral("/Library/Application Support/SomeoneElse"));
-        QDir().mkpath(home.path() + QStringLiteral("/Music"));
-        QVERIFY(App::isFirstStartInternal());
-    }
-
-    void logLine_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("line");
-        QTest::newRow("debug") << int(QtDebugMsg) << "09.03.14-07:05 Debug: tuned, Board.cpp\n";
-        QTest::newRow("warning") << int(QtWarningMsg) << "09.03.14-07:05 Warning: tuned, Board.cpp\n";
-        QTest::newRow("critical") << int(QtCriticalMsg) << "09.03.14-07:05 Critical: tuned, Board.cpp\n";
-        QTest::newRow("fatal") << int(QtFatalMsg) << "09.03.14-07:05 Fatal: tuned, Board.cpp\n";
-        QTest::newRow("info is not logged") << int(QtInfoMsg) << QString();
-    }
-
-    void logLine()
-    {
-        QFETCH(int, type);
-        QFETCH(QString, line);
-        const QMessageLogContext context("Board.cpp", 12, "void f()", "default");
-        const QDateTime time(QDate(2014, 3, 9), QTime(7, 5, 59));
-        QCOMPARE(App::logLine(QtMsgType(type), context, QStringLiteral("tuned"), time), line);
-    }
-
-    void logToFileAndSilence()
-    {
-        const QString log = App::supportDirectory(false) + QStringLiteral("protocol.log");
-        QFile::remove(log);
-        App::setTerminalOuputToFile();
-        qWarning("first %d", 1);
-        qCritical("second");
-        App::disableTerminalOuput();
-        qWarning("silenced");
-        const QStringList lines = readFile(log).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-        QCOMPARE(lines.size(), 2);
-        const QRegularExpression form(QStringLiteral("^\\d\\d\\.\\d\\d\\.\\d\\d-\\d\\d:\\d\\d Warning: first 1, "));
-        QVERIFY2(form.match(lines.at(0)).hasMatch(), qPrintable(lines.at(0)));
-        QVERIFY2(lines.at(1).contains(QStringLiteral(" Critical: second, ")), qPrintable(lines.at(1)));
     }
 
     void bundleResourcePath_data()
@@ -377,47 +281,6 @@ private slots:
         QCOMPARE(App::copyTo(dir.filePath(QStringLiteral("source.txt")), targetDir, targetName), result);
         QVERIFY(QDir(targetDir).exists());
         QCOMPARE(readFile(targetDir + QLatin1Char('/') + expectedFile), expectedContent);
-    }
-
-    void links_data()
-    {
-        QTest::addColumn<Link>("link");
-        QTest::addColumn<QString>("supportPage");
-        QTest::addColumn<QString>("expected");
-        const QString page = QStringLiteral("https://www.corvane.com/apps/tonariumtest/");
-        const QString tell = QStringLiteral("mailto:?subject=Check out the cool TonariumTest app!&body=Hi, check out "
-                                            "this cool TonariumTest app - available in the App Stores: ");
-        QTest::newRow("rate in the store") << Link(&App::rateAppUrl) << ""
-                                           << "https://apps.apple.com/app/tonariumtest/id918273645?ls=1&mt=12";
-        QTest::newRow("support page: the maker's site without one") << Link(&App::supportPageUrl) << ""
-                                                                    << "https://www.corvane.com";
-        QTest::newRow("support page as set") << Link(&App::supportPageUrl) << page << page;
-        QTest::newRow("contact mail: version, system and language")
-            << Link(&App::contactUsLink) << ""
-            << "mailto:support@corvane.com?subject=Contact (TonariumTest 1.2) <os> de I&body=";
-        QTest::newRow("tell a friend: the support page") << Link(&App::tellFriendLink) << page << tell + page;
-        QTest::newRow("tell a friend: the maker's page without one")
-            << Link(&App::tellFriendLink) << "" << tell + "https://www.corvane.com/apps/tonariumtest.html";
-        QTest::newRow("maker's links: facebook") << Link(&App::faceBookShareLink) << "maker" << page + "facebook.php";
-    }
-
-    void links()
-    {
-        QFETCH(Link, link);
-        QFETCH(QString, supportPage);
-        QFETCH(QString, expected);
-        QCoreApplication::setApplicationVersion(QStringLiteral("1.2"));
-        app()->currentLanguage();
-        app()->setCurrentLanguage(QStringLiteral("de"));
-        app()->setAppId(QStringLiteral("id918273645"));
-        if (supportPage == QLatin1String("maker"))
-            app()->setCorvaneLinks();
-        else
-            app()->setAppSupportPage(supportPage);
-        const QString text = (app()->*link)();
-        app()->setCurrentLanguage(QStringLiteral("en"));
-        app()->setAppSupportPage(QString());
-        QCOMPARE(text, expected.replace(QLatin1String("<os>"), app()->osInfo()));
     }
 
     void mouseClickPosition_data()
