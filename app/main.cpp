@@ -16,7 +16,7 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QMWidgets::App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral("GuitarTonarium"));
     // A second launch only brings the running window forward.
-    if (App_mac::instance()->isRunningElsewhere())
+    if (Platform::App_mac::instance()->isRunningElsewhere())
         return 0;
 
     app.setAppId(QLatin1String(QMWidgets::CorvaneSite::guitarTonariumStoreId));

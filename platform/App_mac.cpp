@@ -8,6 +8,8 @@
 
 #include <unistd.h>
 
+namespace Platform {
+
 namespace {
 
 App_mac* s_instance = nullptr;
@@ -83,3 +85,5 @@ void App_mac::slotNewConnection()
         emitClick();
     }
 }
+
+} // namespace Platform

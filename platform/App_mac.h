@@ -4,6 +4,8 @@
 
 class QLocalServer;
 
+namespace Platform {
+
 // Turns a request to bring the program forward into the signal dockClicked().
 // On Linux that request is a second launch: it finds the running copy over a
 // local socket named after the application and the user, and the running
@@ -39,3 +41,5 @@ private:
     QLocalServer* m_server = nullptr;
     bool m_runningElsewhere = false;
 };
+
+} // namespace Platform

@@ -7,6 +7,8 @@
 
 #include <unistd.h>
 
+using Platform::App_mac;
+
 // A second launch reaches the running copy, which emits dockClicked().
 class tst_App_mac : public QObject
 {

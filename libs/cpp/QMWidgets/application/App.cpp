@@ -55,7 +55,7 @@ App::App(int& argc, char** argv, const QString& organizationName, const QString&
     // Decided before anything below creates a directory.
     m_firstStart = isFirstStartInternal();
 
-    connect(App_mac::instance(), &App_mac::dockClicked, this, &App::dockClicked);
+    connect(Platform::App_mac::instance(), &Platform::App_mac::dockClicked, this, &App::dockClicked);
 
     m_openDirPath = workDirectory(true);
     m_saveDirPath = m_openDirPath;

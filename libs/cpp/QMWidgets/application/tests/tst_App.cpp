@@ -190,10 +190,23 @@ private slots:
         QCOMPARE(App::dateFromBuild(build), date);
     }
 
-    void buildOfThisProgramIsADate()
+    // The build reads back as its date (month first, no leading zeros), and
+    // both are written where all messages go.
+    void buildDateReadsBackAsTheBuildAndIsLogged()
     {
+        const QString log = App::supportDirectory(false) + QStringLiteral("protocol.log");
+        QFile::remove(log);
+        App::setTerminalOuputToFile();
         const QDate date = app()->buildDate();
-        QVERIFY(date.isValid() && date <= QDate::currentDate() && date.year() >= 2024);
+        App::disableTerminalOuput();
+        QVERIFY(date.isValid());
+        QCOMPARE(date.toString(QStringLiteral("M/d/yyyy")), app()->build());
+        const QStringList lines = readFile(log).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), 2);
+        QVERIFY2(lines.at(0).contains(QStringLiteral(" Debug: &&&BUILD: \"%1\"").arg(app()->build())),
+            qPrintable(lines.at(0)));
+        QVERIFY2(lines.at(1).contains(QStringLiteral(" Debug: &&&DATE: QDate(\"%1\")").arg(date.toString(Qt::ISODate))),
+            qPrintable(lines.at(1)));
     }
 
     void storeBuild_data()
