@@ -9,6 +9,7 @@
 #include "AudioPoolPlayer.h"
 #include "GuitarBoard.h"
 #include "NativeAudioPlayer.h"
+#include "OutputBudget.h"
 
 #include <QAudioDeviceInfo>
 #include <QElapsedTimer>
@@ -273,7 +274,8 @@ void bench_sound::cpuWhileSixNotesSound()
 void bench_sound::memoryPerPlayer()
 {
     waitForSilence();
-    const int players = 24;
+    // As many as may sound at once: a further one would end the oldest.
+    const int players = OutputBudget::SharedPlaces;
     AudioPlayersPool pool(-1);
     pool.setVolume(1);
     const qint64 residentBefore = residentBytes();
