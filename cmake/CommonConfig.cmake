@@ -7,6 +7,14 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 
+# The program's desktop id: the name of its icons, menu entry and metadata.
+set(QM_APP_ID "com.corvane.GuitarTonarium")
+
+# Installed, the programs live in lib/tonarium/ with their Resources/ folder
+# beside them, as in the build; bin/ holds a link to each.
+set(QM_PACKAGE "tonarium")
+set(QM_INSTALL_PROGRAM_DIR "lib/${QM_PACKAGE}")
+
 # The folder beside the executables that holds samples and slides.
 set(QM_BUNDLE_RESOURCES_DIR "${CMAKE_BINARY_DIR}/bin/Resources")
 

@@ -2,16 +2,16 @@
 # Floods the real guitar window with clicks on the fretboard, as an
 # auto-clicker or a stuck mouse would, then checks that the window still
 # answers and that one more press sounds at the sink.
-#   scripts/flood-test.sh <build folder> [clicks]
+#   scripts/flood-test.sh <program> [clicks]
 # Needs Xvfb, xdotool, python3-xlib, SoX, and the PulseAudio server with the null
 # sink that scripts/headless-sound.sh starts.
 set -euo pipefail
-build=$(cd "${1:?usage: $0 <build folder> [clicks]}" && pwd)
+program=$(realpath -s "${1:?usage: $0 <program> [clicks]}")
 clicks=${2:-1000}
 here=$(cd "$(dirname "$0")" && pwd)
 
 if [ "${FLOOD_INNER:-}" != 1 ]; then
-    FLOOD_INNER=1 exec xvfb-run -a -s "-screen 0 1280x800x24" "$here/flood-test.sh" "$build" "$clicks"
+    FLOOD_INNER=1 exec xvfb-run -a -s "-screen 0 1280x800x24" "$here/flood-test.sh" "$program" "$clicks"
 fi
 
 work=$(mktemp -d)
@@ -33,7 +33,7 @@ export HOME=$work/home
 mkdir -p "$HOME/Library/Application Support/GuitarTonarium"
 printf '[GuitarTonarium]\nNeverShowItAgain=true\n' >"$HOME/Library/Application Support/GuitarTonarium/settings.plist"
 unset QT_QPA_PLATFORM
-"$build/bin/GuitarTonarium" &
+"$program" &
 app_pid=$!
 window=$(timeout 20 xdotool search --sync --onlyvisible --name '^GuitarTonarium$' | head -1) || fail "no window"
 sleep 1

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs what is needed, builds and runs every check headless: the format
 # check, the test suite (offscreen Qt, a private PulseAudio null sink), a
-# flood of clicks on the real window under Xvfb, a short fuzzing run of the
+# flood of clicks on the real window under Xvfb, the Debian package built,
+# unpacked and started from a scratch root, a short fuzzing run of the
 # sample decoder, and the test suite again in a build with AddressSanitizer
 # and UndefinedBehaviorSanitizer.
 #   --quick      the format check and the plain suite only
@@ -47,7 +48,8 @@ case "$mode" in
 --sanitize) sanitized_suite ;;
 all)
     plain_suite
-    "$root/scripts/flood-test.sh" "${BUILD_DIR:-$root/build}"
+    "$root/scripts/flood-test.sh" "${BUILD_DIR:-$root/build}/bin/GuitarTonarium"
+    "$root/scripts/package-test.sh" "${BUILD_DIR:-$root/build}"
     "$root/scripts/fuzz.sh" 30
     sanitized_suite
     ;;

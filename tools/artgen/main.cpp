@@ -1,5 +1,6 @@
 // artgen: draws the program's pictures and synthesises its samples.
 #include "ArtWriter.h"
+#include "DesktopIconArt.h"
 #include "FrameArt.h"
 #include "GuitarSampleSynth.h"
 #include "LookArt.h"
@@ -21,7 +22,9 @@ int main(int argc, char* argv[])
     const QCommandLineOption picturesOption("pictures", "Folder of the compiled-in pictures.", "dir");
     const QCommandLineOption bundleOption("bundle", "Resources folder beside the program.", "dir");
     const QCommandLineOption fontOption("music-font", "Engraving font (Emmentaler).", "file");
-    parser.addOptions({ picturesOption, bundleOption, fontOption });
+    const QCommandLineOption iconsOption("icons", "Folder of the desktop icons (hicolor theme).", "dir");
+    const QCommandLineOption iconNameOption("icon-name", "File name of the desktop icons.", "name");
+    parser.addOptions({ picturesOption, bundleOption, fontOption, iconsOption, iconNameOption });
     parser.process(app);
 
     if (parser.isSet(fontOption))
@@ -36,6 +39,8 @@ int main(int argc, char* argv[])
     FrameArt::generate(writer);
     GuitarSampleSynth::generate(writer);
     MetronomeSoundSynth::generate(writer);
+    if (parser.isSet(iconsOption) && !DesktopIconArt::generate(parser.value(iconsOption), parser.value(iconNameOption)))
+        return 1;
 
     return writer.writeQrc(parser.value(picturesOption) + QStringLiteral("/art.qrc")) ? 0 : 1;
 }

@@ -1,5 +1,6 @@
 // slidegen: renders the introduction slides from the program's own widgets,
-// with captions in each slide language, into the Resources folder.
+// with captions in each slide language, into the Resources folder; given a
+// second folder, also the screenshots of the program's store listing.
 #include "App.h"
 #include "AppStyleSheet.h"
 #include "SlideCaptions.h"
@@ -39,6 +40,13 @@ int main(int argc, char* argv[])
                 SlideCaptions::title(n, language), SlideCaptions::text(n, language));
             ok = slide.save(outputDir + QStringLiteral("/TRXSlide%1_%2.jpg").arg(n).arg(language), "JPG", 88) && ok;
         }
+    }
+    // The page with a note found on the neck, and in training.
+    if (argc > 2) {
+        const QString screenshotDir = QString::fromLocal8Bit(argv[2]);
+        QDir().mkpath(screenshotDir);
+        ok = scenes.at(1).content.save(screenshotDir + QStringLiteral("/finder.png")) && ok;
+        ok = scenes.at(4).content.save(screenshotDir + QStringLiteral("/training.png")) && ok;
     }
     return ok ? 0 : 1;
 }

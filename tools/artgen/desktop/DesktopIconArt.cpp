@@ -1,0 +1,166 @@
+#include "DesktopIconArt.h"
+
+#include <QColor>
+#include <QDir>
+#include <QFile>
+#include <QPainter>
+
+namespace {
+
+const QColor kTileColor(0x2b, 0x1d, 0x14);
+const QColor kEdgeColor(0xc0, 0x7a, 0x3a);
+const QColor kNeckColor(0x6a, 0x3d, 0x22);
+const QColor kNutColor(0xf1, 0xe9, 0xd2);
+const QColor kFretColor(0xd8, 0xd8, 0xd0);
+const QColor kStringColor(0xf4, 0xe7, 0xc8);
+const QColor kMarkColor(0x38, 0xd6, 0xf0);
+
+// One element of the drawing, in units of a 256 square.
+struct Shape
+{
+    enum Kind
+    {
+        Tile,
+        Box,
+        Line,
+        Ring
+    } kind;
+    QRectF box; // Tile, Box; Ring: its bounding square
+    QLineF line;
+    QColor color;
+    double width = 0.0; // stroke width; for the tile its edge
+};
+
+QVector<Shape> drawing(bool small)
+{
+    QVector<Shape> shapes;
+    shapes.append({ Shape::Tile, QRectF(8, 8, 240, 240), {}, kTileColor, small ? 16.0 : 10.0 });
+    const double top = small ? 64 : 72;
+    const double bottom = small ? 192 : 184;
+    shapes.append({ Shape::Box, QRectF(28, top, 204, bottom - top), {}, kNeckColor, 0 });
+    shapes.append({ Shape::Box, QRectF(28, top, small ? 20 : 12, bottom - top), {}, kNutColor, 0 });
+    const QVector<double> frets = small ? QVector<double> { 104, 162, 210 } : QVector<double> { 84, 134, 178, 214 };
+    for (double x : frets)
+        shapes.append({ Shape::Line, {}, QLineF(x, top, x, bottom), kFretColor, small ? 12.0 : 6.0 });
+    const int strings = small ? 3 : 6;
+    const double margin = small ? 26 : 12;
+    const double step = (bottom - top - 2 * margin) / (strings - 1);
+    for (int i = 0; i < strings; ++i) {
+        const double y = top + margin + i * step;
+        shapes.append({ Shape::Line, {}, QLineF(28, y, 232, y), kStringColor, small ? 8.0 : 2.5 + i * 0.9 });
+    }
+    // The mark: a ring around the middle string between two frets.
+    const double markX = small ? 133 : 156;
+    const double markY = small ? 128 : top + margin + 3 * step;
+    const double radius = small ? 30 : 22;
+    shapes.append({ Shape::Ring, QRectF(markX - radius, markY - radius, 2 * radius, 2 * radius), {}, kMarkColor,
+        small ? 16.0 : 9.0 });
+    return shapes;
+}
+
+QString svgColor(const QColor& color)
+{
+    return color.name(QColor::HexRgb);
+}
+
+} // namespace
+
+QVector<int> DesktopIconArt::sizes()
+{
+    return { 16, 22, 24, 32, 48, 64, 128, 256, 512 };
+}
+
+QImage DesktopIconArt::png(int size)
+{
+    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(size / 256.0, size / 256.0);
+    for (const Shape& shape : drawing(size < 32)) {
+        switch (shape.kind) {
+        case Shape::Tile:
+            painter.setPen(QPen(kEdgeColor, shape.width));
+            painter.setBrush(shape.color);
+            painter.drawRoundedRect(shape.box, 44, 44);
+            break;
+        case Shape::Box:
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(shape.color);
+            painter.drawRect(shape.box);
+            break;
+        case Shape::Line:
+            painter.setPen(QPen(shape.color, shape.width, Qt::SolidLine, Qt::FlatCap));
+            painter.drawLine(shape.line);
+            break;
+        case Shape::Ring:
+            painter.setPen(QPen(shape.color, shape.width));
+            painter.setBrush(Qt::NoBrush);
+            painter.drawEllipse(shape.box);
+            break;
+        }
+    }
+    return image;
+}
+
+QByteArray DesktopIconArt::svg()
+{
+    QString text = QStringLiteral(
+        "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"256\" height=\"256\" viewBox=\"0 0 256 256\">\n");
+    for (const Shape& shape : drawing(false)) {
+        switch (shape.kind) {
+        case Shape::Tile:
+            text += QStringLiteral("  <rect x=\"%1\" y=\"%2\" width=\"%3\" height=\"%4\" rx=\"44\" fill=\"%5\" "
+                                   "stroke=\"%6\" stroke-width=\"%7\"/>\n")
+                        .arg(shape.box.x())
+                        .arg(shape.box.y())
+                        .arg(shape.box.width())
+                        .arg(shape.box.height())
+                        .arg(svgColor(shape.color), svgColor(kEdgeColor))
+                        .arg(shape.width);
+            break;
+        case Shape::Box:
+            text += QStringLiteral("  <rect x=\"%1\" y=\"%2\" width=\"%3\" height=\"%4\" fill=\"%5\"/>\n")
+                        .arg(shape.box.x())
+                        .arg(shape.box.y())
+                        .arg(shape.box.width())
+                        .arg(shape.box.height())
+                        .arg(svgColor(shape.color));
+            break;
+        case Shape::Line:
+            text += QStringLiteral(
+                "  <line x1=\"%1\" y1=\"%2\" x2=\"%3\" y2=\"%4\" stroke=\"%5\" stroke-width=\"%6\"/>\n")
+                        .arg(shape.line.x1())
+                        .arg(shape.line.y1())
+                        .arg(shape.line.x2())
+                        .arg(shape.line.y2())
+                        .arg(svgColor(shape.color))
+                        .arg(shape.width);
+            break;
+        case Shape::Ring:
+            text += QStringLiteral(
+                "  <circle cx=\"%1\" cy=\"%2\" r=\"%3\" fill=\"none\" stroke=\"%4\" stroke-width=\"%5\"/>\n")
+                        .arg(shape.box.center().x())
+                        .arg(shape.box.center().y())
+                        .arg(shape.box.width() / 2)
+                        .arg(svgColor(shape.color))
+                        .arg(shape.width);
+            break;
+        }
+    }
+    text += QStringLiteral("</svg>\n");
+    return text.toUtf8();
+}
+
+bool DesktopIconArt::generate(const QString& dir, const QString& name)
+{
+    bool ok = true;
+    for (int size : sizes()) {
+        const QString folder = dir + QStringLiteral("/hicolor/%1x%1/apps").arg(size);
+        ok = QDir().mkpath(folder) && png(size).save(folder + QLatin1Char('/') + name + QStringLiteral(".png")) && ok;
+    }
+    const QString scalable = dir + QStringLiteral("/hicolor/scalable/apps");
+    QFile file(scalable + QLatin1Char('/') + name + QStringLiteral(".svg"));
+    ok = QDir().mkpath(scalable) && file.open(QIODevice::WriteOnly) && file.write(svg()) > 0 && ok;
+    return ok;
+}
