@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QPainter>
 #include <QSaveFile>
 #include <QTextStream>
 
@@ -22,6 +23,24 @@ bool ArtWriter::addPicture(const QString& resourceName, const QImage& image, int
         return false;
     m_pictures.append(resourceName);
     return true;
+}
+
+bool ArtWriter::addPicturePair(const QString& name, const QSize& size, const Painter& paint)
+{
+    bool ok = true;
+    for (int scale = 1; scale <= 2; ++scale) {
+        QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setRenderHint(QPainter::TextAntialiasing);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.scale(scale, scale);
+        paint(painter, QSizeF(size));
+        painter.end();
+        ok = addPicture(name + (scale == 1 ? QStringLiteral(".png") : QStringLiteral("@2x.png")), image) && ok;
+    }
+    return ok;
 }
 
 bool ArtWriter::addBundleFile(const QString& fileName, const QByteArray& data)

@@ -3,7 +3,12 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class QImage;
+class QPainter;
+class QSize;
+class QSizeF;
 
 // Writes the generated files and remembers the pictures for the .qrc that
 // compiles them into the program.
@@ -15,6 +20,10 @@ public:
     // Saves a picture under its resource name, e.g. "Guitar_0@2x.jpg"
     // becomes ":/Guitar_0@2x.jpg". The format follows the suffix.
     bool addPicture(const QString& resourceName, const QImage& image, int quality = -1);
+    // Paints at a logical size, antialiased, and saves "name.png" at that
+    // size and "name@2x.png" at twice it.
+    using Painter = std::function<void(QPainter&, const QSizeF&)>;
+    bool addPicturePair(const QString& name, const QSize& size, const Painter& paint);
     // Saves a file into the Resources folder beside the program.
     bool addBundleFile(const QString& fileName, const QByteArray& data);
     QString bundlePath(const QString& fileName) const;

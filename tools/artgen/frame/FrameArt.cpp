@@ -21,26 +21,6 @@ const QColor kRosewood(122, 58, 34);
 const QColor kRosewoodDark(62, 28, 16);
 const QColor kBrass(214, 168, 82);
 
-using Painter = std::function<void(QPainter&, const QSizeF&)>;
-
-// Paints at a logical size and writes "name.png" at that size and
-// "name@2x.png" at twice it.
-void savePair(ArtWriter& writer, const QString& name, const QSize& size, const Painter& paint)
-{
-    for (int scale = 1; scale <= 2; ++scale) {
-        QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setRenderHint(QPainter::TextAntialiasing);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.scale(scale, scale);
-        paint(painter, QSizeF(size));
-        painter.end();
-        writer.addPicture(name + (scale == 1 ? QStringLiteral(".png") : QStringLiteral("@2x.png")), image);
-    }
-}
-
 QFont font(qreal pixelSize, bool bold, bool serif = false)
 {
     QFont f(serif ? QStringLiteral("DejaVu Serif") : QStringLiteral("DejaVu Sans"));
@@ -517,15 +497,15 @@ void FrameArt::generate(ArtWriter& writer)
     };
     for (const BarButton& button : barButtons) {
         for (bool hover : { false, true }) {
-            savePair(writer, QLatin1String(button.name) + (hover ? QStringLiteral("_hover") : QString()), barButton,
-                [&](QPainter& p, const QSizeF& s) { paintBarButton(p, s, button.symbol, hover); });
+            writer.addPicturePair(QLatin1String(button.name) + (hover ? QStringLiteral("_hover") : QString()),
+                barButton, [&](QPainter& p, const QSizeF& s) { paintBarButton(p, s, button.symbol, hover); });
         }
     }
     for (bool hover : { false, true }) {
-        savePair(writer, hover ? QStringLiteral("More_hover") : QStringLiteral("More"), barButton,
+        writer.addPicturePair(hover ? QStringLiteral("More_hover") : QStringLiteral("More"), barButton,
             [&](QPainter& p, const QSizeF& s) { paintMoreButton(p, s, hover); });
     }
-    savePair(writer, QStringLiteral("backgroundbar"), QSize(256, 45), paintBarGround);
+    writer.addPicturePair(QStringLiteral("backgroundbar"), QSize(256, 45), paintBarGround);
 
     // Menu icons, square; the style of the menus shows them at 16 pixels.
     const QSize icon(32, 32);
@@ -548,15 +528,15 @@ void FrameArt::generate(ArtWriter& writer)
         { "wikipedia", symbolWikipedia, kIvory },
     };
     for (const MenuIcon& menuIcon : menuIcons) {
-        savePair(writer, QLatin1String(menuIcon.name), icon,
+        writer.addPicturePair(QLatin1String(menuIcon.name), icon,
             [&](QPainter& p, const QSizeF& s) { menuIcon.symbol(p, QRectF(QPointF(0, 0), s), menuIcon.colour); });
     }
 
-    savePair(writer, QStringLiteral("app"), QSize(290, 290),
-        [](QPainter& p, const QSizeF& s) { paintAppPicture(p, s, false); });
-    savePair(writer, QStringLiteral("appicon"), QSize(64, 64),
-        [](QPainter& p, const QSizeF& s) { paintAppPicture(p, s, true); });
-    savePair(writer, QStringLiteral("pix/corvanelogo"), QSize(110, 22), paintMakerLogo);
+    writer.addPicturePair(
+        QStringLiteral("app"), QSize(290, 290), [](QPainter& p, const QSizeF& s) { paintAppPicture(p, s, false); });
+    writer.addPicturePair(
+        QStringLiteral("appicon"), QSize(64, 64), [](QPainter& p, const QSizeF& s) { paintAppPicture(p, s, true); });
+    writer.addPicturePair(QStringLiteral("pix/corvanelogo"), QSize(110, 22), paintMakerLogo);
 
     // The maker's other products, listed in the "More" menu.
     const ProductIcon products[] = {
@@ -571,8 +551,8 @@ void FrameArt::generate(ArtWriter& writer)
         { "timecodereader", "TC", QColor(40, 70, 70) },
     };
     for (const ProductIcon& product : products) {
-        savePair(writer, QStringLiteral("promo/") + QLatin1String(product.name), QSize(64, 64),
-            [&](QPainter& p, const QSizeF& s) {
+        writer.addPicturePair(
+            QStringLiteral("promo/") + QLatin1String(product.name), QSize(64, 64), [&](QPainter& p, const QSizeF& s) {
                 paintProductIcon(p, s, QString::fromLatin1(product.letters), product.accent);
             });
     }

@@ -13,25 +13,6 @@
 
 namespace {
 
-// Paints at a logical size and writes the picture twice: "name.png" at the
-// logical size and "name@2x.png" at twice that.
-using Painter = std::function<void(QPainter&, const QSizeF&)>;
-
-void savePair(ArtWriter& writer, const QString& name, const QSize& size, const Painter& paint)
-{
-    for (int scale = 1; scale <= 2; ++scale) {
-        QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setRenderHint(QPainter::TextAntialiasing);
-        painter.scale(scale, scale);
-        paint(painter, QSizeF(size));
-        painter.end();
-        writer.addPicture(scale == 1 ? name + QStringLiteral(".png") : name + QStringLiteral("@2x.png"), image);
-    }
-}
-
 // A rounded tile with a brushed gradient of the channel's colour and a thin
 // light rim; hover lifts its brightness.
 void paintTile(QPainter& p, const QSizeF& size, const QColor& colour, bool hover)
@@ -117,7 +98,7 @@ void generateChannels(ArtWriter& writer)
                 const QString name = QString::fromLatin1(channel.name)
                     + (join ? QStringLiteral("join") : QStringLiteral("share"))
                     + (hover ? QStringLiteral("_hover") : QString());
-                savePair(writer, name, size, [&](QPainter& p, const QSizeF& s) {
+                writer.addPicturePair(name, size, [&](QPainter& p, const QSizeF& s) {
                     paintTile(p, s, channel.colour, hover);
                     const QRectF content(s.width() * 0.16, s.height() * 0.12, s.width() * 0.56, s.height() * 0.6);
                     if (channel.mark.isEmpty())
@@ -221,9 +202,10 @@ void generateInstruments(ArtWriter& writer)
     const QStringList instruments = { QStringLiteral("mandolin"), QStringLiteral("guitar"), QStringLiteral("piano"),
         QStringLiteral("banjo"), QStringLiteral("balalaika"), QStringLiteral("bass") };
     for (const QString& instrument : instruments)
-        savePair(writer, instrument, size, [&](QPainter& p, const QSizeF& s) { paintInstrument(p, s, instrument); });
+        writer.addPicturePair(
+            instrument, size, [&](QPainter& p, const QSizeF& s) { paintInstrument(p, s, instrument); });
     // The capitalised name is the guitar on the finder's own label.
-    savePair(writer, QStringLiteral("Guitar"), size,
+    writer.addPicturePair(QStringLiteral("Guitar"), size,
         [](QPainter& p, const QSizeF& s) { paintInstrument(p, s, QStringLiteral("guitar")); });
 }
 
@@ -278,11 +260,11 @@ void LookArt::generate(ArtWriter& writer)
     generateChannels(writer);
     generateInstruments(writer);
 
-    savePair(writer, QStringLiteral("arrowleft"), QSize(40, 40),
-        [](QPainter& p, const QSizeF& s) { paintArrow(p, s, true); });
-    savePair(writer, QStringLiteral("arrowright"), QSize(40, 40),
-        [](QPainter& p, const QSizeF& s) { paintArrow(p, s, false); });
-    savePair(writer, QStringLiteral("spinbox_button2"), QSize(8, 8), [](QPainter& p, const QSizeF& s) {
+    writer.addPicturePair(
+        QStringLiteral("arrowleft"), QSize(40, 40), [](QPainter& p, const QSizeF& s) { paintArrow(p, s, true); });
+    writer.addPicturePair(
+        QStringLiteral("arrowright"), QSize(40, 40), [](QPainter& p, const QSizeF& s) { paintArrow(p, s, false); });
+    writer.addPicturePair(QStringLiteral("spinbox_button2"), QSize(8, 8), [](QPainter& p, const QSizeF& s) {
         QPainterPath down;
         down.moveTo(0.5, 1.5);
         down.lineTo(s.width() - 0.5, 1.5);
@@ -294,11 +276,12 @@ void LookArt::generate(ArtWriter& writer)
     });
 
     const QSize play(48, 48);
-    savePair(writer, QStringLiteral("Play"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, false, false); });
-    savePair(
-        writer, QStringLiteral("Play_hvr"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, false, true); });
-    savePair(
-        writer, QStringLiteral("Play_prs"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, true, false); });
-    savePair(writer, QStringLiteral("Play_prs_hvr"), play,
-        [](QPainter& p, const QSizeF& s) { paintPlay(p, s, true, true); });
+    writer.addPicturePair(
+        QStringLiteral("Play"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, false, false); });
+    writer.addPicturePair(
+        QStringLiteral("Play_hvr"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, false, true); });
+    writer.addPicturePair(
+        QStringLiteral("Play_prs"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, true, false); });
+    writer.addPicturePair(
+        QStringLiteral("Play_prs_hvr"), play, [](QPainter& p, const QSizeF& s) { paintPlay(p, s, true, true); });
 }

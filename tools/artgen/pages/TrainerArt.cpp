@@ -27,23 +27,6 @@ enum class State
     Disabled
 };
 
-using Paint = std::function<void(QPainter&, const QSizeF&)>;
-
-// Paints at the logical size and writes "name.png" and "name@2x.png".
-void savePair(ArtWriter& writer, const QString& name, const QSize& size, const Paint& paint)
-{
-    for (int scale = 1; scale <= 2; ++scale) {
-        QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(scale, scale);
-        paint(painter, QSizeF(size));
-        painter.end();
-        writer.addPicture(name + (scale == 1 ? QStringLiteral(".png") : QStringLiteral("@2x.png")), image);
-    }
-}
-
 QLinearGradient vertical(const QRectF& r, const QColor& top, const QColor& middle, const QColor& bottom)
 {
     QLinearGradient g(r.topLeft(), r.bottomLeft());
@@ -213,9 +196,9 @@ void paintDualHalf(QPainter& p, const QSizeF& size, bool left, bool checked)
 void TrainerArt::generate(ArtWriter& writer)
 {
     const QSize round(64, 64);
-    savePair(writer, QStringLiteral("RoundButton"), round,
-        [](QPainter& p, const QSizeF& s) { paintRoundButton(p, s, false); });
-    savePair(writer, QStringLiteral("RoundButton_checked"), round,
+    writer.addPicturePair(
+        QStringLiteral("RoundButton"), round, [](QPainter& p, const QSizeF& s) { paintRoundButton(p, s, false); });
+    writer.addPicturePair(QStringLiteral("RoundButton_checked"), round,
         [](QPainter& p, const QSizeF& s) { paintRoundButton(p, s, true); });
 
     const QSize key(44, 44);
@@ -226,18 +209,18 @@ void TrainerArt::generate(ArtWriter& writer)
     } keyStates[] = { { "", State::Normal }, { "_hover", State::Hover }, { "_disabled", State::Disabled } };
     for (const auto& keyState : keyStates) {
         const State state = keyState.state;
-        savePair(writer, QStringLiteral("Key") + QLatin1String(keyState.suffix), key,
+        writer.addPicturePair(QStringLiteral("Key") + QLatin1String(keyState.suffix), key,
             [state](QPainter& p, const QSizeF& s) { paintKey(p, s, false, state); });
-        savePair(writer, QStringLiteral("Keyd") + QLatin1String(keyState.suffix), key,
+        writer.addPicturePair(QStringLiteral("Keyd") + QLatin1String(keyState.suffix), key,
             [state](QPainter& p, const QSizeF& s) { paintKey(p, s, true, state); });
     }
 
     const QSize dual(96, 32);
     for (bool checked : { false, true }) {
         const QString suffix = checked ? QStringLiteral("_checked") : QString();
-        savePair(writer, QStringLiteral("DualButtonLeft") + suffix, dual,
+        writer.addPicturePair(QStringLiteral("DualButtonLeft") + suffix, dual,
             [checked](QPainter& p, const QSizeF& s) { paintDualHalf(p, s, true, checked); });
-        savePair(writer, QStringLiteral("DualButtonRight") + suffix, dual,
+        writer.addPicturePair(QStringLiteral("DualButtonRight") + suffix, dual,
             [checked](QPainter& p, const QSizeF& s) { paintDualHalf(p, s, false, checked); });
     }
 }
