@@ -5,8 +5,10 @@
 
 #include <QBoxLayout>
 #include <QDebug>
+#include <QHash>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTimer>
 
 namespace QMMusic {
@@ -137,6 +139,7 @@ NotesTrainerWidget::NotesTrainerWidget(QWidget* parent)
             ++whiteIndex;
     }
     disableKeys(true);
+    addKeyboardShortcuts();
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
@@ -319,6 +322,30 @@ void NotesTrainerWidget::slotADClicked()
 void NotesTrainerWidget::slotBClicked()
 {
     answer(11);
+}
+
+int NotesTrainerWidget::keyIndexForKeyboard(int qtKey, bool shift)
+{
+    static const QHash<int, int> naturals { { Qt::Key_C, 0 }, { Qt::Key_D, 2 }, { Qt::Key_E, 4 }, { Qt::Key_F, 5 },
+        { Qt::Key_G, 7 }, { Qt::Key_A, 9 }, { Qt::Key_B, 11 } };
+    const auto natural = naturals.constFind(qtKey);
+    if (natural == naturals.constEnd())
+        return -1;
+    return (natural.value() + (shift ? 1 : 0)) % KeyCount;
+}
+
+void NotesTrainerWidget::addKeyboardShortcuts()
+{
+    for (const int letter : { Qt::Key_C, Qt::Key_D, Qt::Key_E, Qt::Key_F, Qt::Key_G, Qt::Key_A, Qt::Key_B }) {
+        for (const bool shift : { false, true }) {
+            const int index = keyIndexForKeyboard(letter, shift);
+            auto* shortcut = new QShortcut(QKeySequence(letter | (shift ? int(Qt::SHIFT) : 0)), this);
+            // A disabled key ignores the click, as it ignores the mouse.
+            connect(shortcut, &QShortcut::activated, m_keys[index], [key = m_keys[index]]() { key->animateClick(); });
+        }
+    }
+    auto* startStop = new QShortcut(QKeySequence(Qt::Key_Space), this);
+    connect(startStop, &QShortcut::activated, m_startButton, &QPushButton::click);
 }
 
 } // namespace QMMusic

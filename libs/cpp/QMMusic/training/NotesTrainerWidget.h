@@ -46,6 +46,10 @@ public:
     static bool isRightAnswer(const QString& reportKey, const QString& note, int accidental);
     // The rich text of the clock after the given milliseconds of a run.
     static QString clockText(int msecs);
+    // The key that a letter of the computer keyboard answers, C to B, a
+    // semitone higher with Shift (Shift+E is F, Shift+B is C); -1 for keys
+    // other than the seven letters.
+    static int keyIndexForKeyboard(int qtKey, bool shift);
 
 signals:
     void needNextNote();
@@ -69,6 +73,8 @@ public slots:
 
 private:
     void answer(int keyIndex);
+    // The letters answer, Space starts and stops, while the panel shows.
+    void addKeyboardShortcuts();
 
     QTimer* m_timer = nullptr;
     QLabel* m_timeLabel = nullptr;

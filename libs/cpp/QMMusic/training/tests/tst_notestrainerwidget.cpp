@@ -71,6 +71,9 @@ private slots:
     void startAndStop();
     void stepsOfOneAnswerInOrder();
     void keysDoNothingOutsideARun();
+    void computerKeyboardAnswers_data();
+    void computerKeyboardAnswers();
+    void spaceStartsAndStops();
     void clockText_data();
     void clockText();
     void clockRunsAndKeepsItsReading();
@@ -229,6 +232,65 @@ void tst_NotesTrainerWidget::keysDoNothingOutsideARun()
     QCOMPARE(asked.count(), 0);
     QCOMPARE(trainer.statistic()->rightCount() + trainer.statistic()->wrongCount(), 0);
     QVERIFY(trainer.statistic()->report().isEmpty());
+}
+
+void tst_NotesTrainerWidget::computerKeyboardAnswers_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("shift");
+    QTest::addColumn<QString>("note");
+    QTest::addColumn<int>("accidental");
+    QTest::addColumn<QString>("reportKey");
+    QTest::newRow("C") << int(Qt::Key_C) << false << "C4" << 0 << "C";
+    QTest::newRow("D") << int(Qt::Key_D) << false << "D3" << 0 << "D";
+    QTest::newRow("E") << int(Qt::Key_E) << false << "E2" << 0 << "E";
+    QTest::newRow("F") << int(Qt::Key_F) << false << "F2" << 0 << "F";
+    QTest::newRow("G") << int(Qt::Key_G) << false << "G3" << 0 << "G";
+    QTest::newRow("A") << int(Qt::Key_A) << false << "A2" << 0 << "A";
+    QTest::newRow("B") << int(Qt::Key_B) << false << "B3" << 0 << "B";
+    QTest::newRow("Shift+C is C sharp") << int(Qt::Key_C) << true << "C3" << 1 << "C#";
+    QTest::newRow("Shift+D is D sharp") << int(Qt::Key_D) << true << "D3" << 1 << "D#";
+    QTest::newRow("Shift+F is F sharp") << int(Qt::Key_F) << true << "F2" << 1 << "F#";
+    QTest::newRow("Shift+G is G sharp") << int(Qt::Key_G) << true << "G2" << 1 << "G#";
+    QTest::newRow("Shift+A is A sharp") << int(Qt::Key_A) << true << "A3" << 1 << "A#";
+    QTest::newRow("Shift+E is F") << int(Qt::Key_E) << true << "F4" << 0 << "F";
+    QTest::newRow("Shift+B is C") << int(Qt::Key_B) << true << "C4" << 0 << "C";
+    QTest::newRow("a letter without a key answers nothing") << int(Qt::Key_H) << false << "B3" << 0 << "";
+}
+
+// The seven letters answer as the keys on the panel do, a semitone higher
+// with Shift, and count right for the asked note.
+void tst_NotesTrainerWidget::computerKeyboardAnswers()
+{
+    QFETCH(int, key);
+    QFETCH(bool, shift);
+    QFETCH(QString, note);
+    QFETCH(int, accidental);
+    QFETCH(QString, reportKey);
+    NotesTrainerWidget trainer;
+    ScriptedBoard board(trainer, { { note, accidental }, { "E2", 0 } });
+    trainer.show();
+    trainer.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&trainer));
+    QTest::mouseClick(startButton(trainer), Qt::LeftButton);
+    QTest::keyClick(&trainer, Qt::Key(key), shift ? Qt::ShiftModifier : Qt::NoModifier);
+    if (reportKey.isEmpty()) {
+        QVERIFY(trainer.statistic()->report().isEmpty());
+        return;
+    }
+    QCOMPARE(trainer.statistic()->report(), (Report { { reportKey, { 1, 0 } } }));
+}
+
+void tst_NotesTrainerWidget::spaceStartsAndStops()
+{
+    NotesTrainerWidget trainer;
+    trainer.show();
+    trainer.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&trainer));
+    QTest::keyClick(&trainer, Qt::Key_Space);
+    QVERIFY(trainer.isTrainingStarted());
+    QTest::keyClick(&trainer, Qt::Key_Space);
+    QVERIFY(!trainer.isTrainingStarted());
 }
 
 void tst_NotesTrainerWidget::clockText_data()
