@@ -288,7 +288,7 @@ void bench_sound::memoryPerPlayer()
     QCOMPARE(pool.players().size(), players);
     const double perPlayer = double(heapAfter - heapBefore) / players;
     qInfo("memory per sounding player: %.0f kB of heap in use, resident set grew %.0f kB a player"
-          " (%d players of a 1.8 s sample)",
+          " (%d players of a 2.5 s sample)",
         perPlayer / 1024.0, double(residentAfter - residentBefore) / players / 1024.0, players);
     QTest::setBenchmarkResult(perPlayer, QTest::BytesAllocated);
     QTRY_VERIFY_WITH_TIMEOUT(pool.players().isEmpty(), 4000);

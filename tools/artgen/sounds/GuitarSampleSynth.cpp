@@ -17,9 +17,9 @@
 namespace {
 
 const double Pi = 3.14159265358979323846;
-const double LengthSeconds = 1.8;
-const double FadeSeconds = 0.3;
-const double PickPosition = 0.13; // fraction of the string from the bridge
+const double LengthSeconds = 2.5;
+const double FadeSeconds = 0.5;
+const double PickPosition = 0.2; // fraction of the string from the bridge: warmer than near it
 const double LoopFilterTap = 0.16; // outer taps of the loop's lowpass
 const float PeakLevel = 0.7f;
 const int ParallelEncoders = 4;
@@ -75,12 +75,13 @@ private:
     double m_y2 = 0.0;
 };
 
-// Time for the string to fall by 60 dB: long for the low E, short at the top.
+// Time for the string to fall by 60 dB: long for the low E, shorter at the
+// top, as a nylon or steel string rings on a guitar's body.
 double decaySeconds(int midiNote)
 {
     const double t = double(midiNote - GuitarSampleSynth::LowestMidiNote)
         / (GuitarSampleSynth::HighestMidiNote - GuitarSampleSynth::LowestMidiNote);
-    return 3.2 + t * (1.4 - 3.2);
+    return 8.0 + t * (5.5 - 8.0);
 }
 
 } // namespace
@@ -131,7 +132,8 @@ QVector<float> GuitarSampleSynth::pluck(int midiNote)
     const int combDelay = qMax(1, static_cast<int>(std::lround(PickPosition * period)));
     NoiseSource noise(static_cast<quint32>(midiNote));
     std::vector<double> burst(static_cast<size_t>(burstLength), 0.0);
-    const double softness = 0.25 + 0.5 * (midiNote - LowestMidiNote) / double(HighestMidiNote - LowestMidiNote);
+    // A soft pick: the burst is smoothed, the more so on the low strings.
+    const double softness = 0.12 + 0.3 * (midiNote - LowestMidiNote) / double(HighestMidiNote - LowestMidiNote);
     double smooth = 0.0;
     for (double& value : burst) {
         smooth += softness * (noise.next() - smooth);
@@ -159,7 +161,8 @@ QVector<float> GuitarSampleSynth::pluck(int midiNote)
         string[static_cast<size_t>(n)] = e + loss * u;
     }
 
-    // A little body: three resonances of a guitar top and air cavity.
+    // The body: the air cavity, the top and its first overtone, which give
+    // the low notes their warmth.
     Resonator air(98.0, 12.0);
     Resonator top(205.0, 15.0);
     Resonator upper(410.0, 18.0);
@@ -168,7 +171,7 @@ QVector<float> GuitarSampleSynth::pluck(int midiNote)
     std::vector<double> body(static_cast<size_t>(length));
     for (int n = 0; n < length; ++n) {
         const double s = string[static_cast<size_t>(n)];
-        const double value = s + 0.35 * air.process(s) + 0.3 * top.process(s) + 0.2 * upper.process(s);
+        const double value = s + 0.5 * air.process(s) + 0.35 * top.process(s) + 0.15 * upper.process(s);
         body[static_cast<size_t>(n)] = value;
         peak = qMax(peak, std::abs(value));
     }
@@ -206,7 +209,8 @@ void GuitarSampleSynth::generate(ArtWriter& writer)
             encoder->setProcessChannelMode(QProcess::ForwardedChannels);
             encoder->start(QStringLiteral("lame"),
                 { QStringLiteral("--quiet"), QStringLiteral("-m"), QStringLiteral("m"), QStringLiteral("-V"),
-                    QStringLiteral("4"), QStringLiteral("--noreplaygain"), wavePath,
+                    QStringLiteral("7"), QStringLiteral("--resample"), QStringLiteral("44.1"),
+                    QStringLiteral("--noreplaygain"), wavePath,
                     writer.bundlePath(QMMusic::NoteSpelling::sampleFileName(QStringLiteral("Guitar"), stem(note))) });
             running.push_back(std::move(encoder));
         }

@@ -97,7 +97,7 @@ void tst_NativeAudioPlayer::finishedAfterTheSound_data()
     QTest::addColumn<qint64>("length");
 
     QTest::newRow("wave of one second") << tone(1000) << qint64(1000);
-    QTest::newRow("guitar sample") << QStringLiteral(QM_BUNDLE_RESOURCES_DIR "/guitar_440_E2.mp3") << qint64(1800);
+    QTest::newRow("guitar sample") << QStringLiteral(QM_BUNDLE_RESOURCES_DIR "/guitar_440_E2.mp3") << qint64(2500);
 }
 
 void tst_NativeAudioPlayer::finishedAfterTheSound()
