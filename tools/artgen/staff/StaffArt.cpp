@@ -1,6 +1,7 @@
 #include "StaffArt.h"
 
 #include "ArtWriter.h"
+#include "StaffGeometry.h"
 
 #include <QFontDatabase>
 #include <QImage>
@@ -8,6 +9,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <cmath>
 #include <cstdio>
 
 namespace {
@@ -160,6 +162,26 @@ QImage signButton(const QString& family, QChar glyph, bool framed)
     return image;
 }
 
+// An accidental as the staff draws it in front of a head: black, its
+// reference line at a fixed height of the picture (see StaffGeometry).
+QImage staffSign(const QString& family, QChar glyph)
+{
+    using QMMusic::StaffGeometry;
+    const qreal space = StaffGeometry::signPictureSpace;
+    const QPainterPath path = glyphPath(family, glyph, space);
+    const int width = int(std::ceil(path.boundingRect().right() + space * 0.1));
+    const int height = int(std::ceil((StaffGeometry::signSpacesAbove + StaffGeometry::signSpacesBelow) * space));
+    QImage image = transparentImage(width, height);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.translate(0.0, StaffGeometry::signSpacesAbove * space);
+    painter.drawPath(path);
+    painter.end();
+    return image;
+}
+
 } // namespace
 
 void StaffArt::generate(ArtWriter& writer)
@@ -172,6 +194,8 @@ void StaffArt::generate(ArtWriter& writer)
     writer.addPicture(QStringLiteral("violinkey.png"), violinKey(family));
     writer.addPicture(QStringLiteral("basskey.png"), bassKey(family));
     writer.addPicture(QStringLiteral("note.png"), noteHead(family));
+    writer.addPicture(QStringLiteral("staffsharp.png"), staffSign(family, kSharp));
+    writer.addPicture(QStringLiteral("staffflat.png"), staffSign(family, kFlat));
 
     const struct
     {

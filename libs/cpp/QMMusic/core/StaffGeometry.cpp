@@ -311,6 +311,14 @@ int StaffGeometry::signPixelSize() const
     return int(1.5f * lineHeight());
 }
 
+QRectF StaffGeometry::signRect(int widgetWidth, float noteTop, const QSize& pictureSize) const
+{
+    const qreal scale = lineHeight() / qreal(signPictureSpace);
+    const qreal noteCentre = noteTop + lineHeight() / 2.0f;
+    return QRectF(signBasePoint(widgetWidth, noteTop).x(), noteCentre - signSpacesAbove * lineHeight(),
+        pictureSize.width() * scale, pictureSize.height() * scale);
+}
+
 QRect StaffGeometry::violinKeyRect() const
 {
     const int side = int(8.0f * lineHeight());

@@ -4,6 +4,8 @@
 #include <QPair>
 #include <QPoint>
 #include <QRect>
+#include <QRectF>
+#include <QSize>
 #include <QString>
 #include <QVector>
 
@@ -49,6 +51,16 @@ public:
     QRect noteRect(int widgetWidth, float noteTop) const;
     QPoint signBasePoint(int widgetWidth, float noteTop) const;
     int signPixelSize() const;
+    // The pictures of the sharp and flat in front of the head: the music
+    // font's glyph drawn at a staff space of signPictureSpace pixels, its
+    // reference line (the note's centre) signSpacesAbove spaces from the top
+    // of a picture signSpacesAbove + signSpacesBelow spaces high.
+    static constexpr int signPictureSpace = 32;
+    static constexpr float signSpacesAbove = 3.0f;
+    static constexpr float signSpacesBelow = 1.5f;
+    // Where such a picture of the given size goes: from the sign's base
+    // point, scaled so that a picture space is a line height of the staff.
+    QRectF signRect(int widgetWidth, float noteTop, const QSize& pictureSize) const;
     QRect violinKeyRect() const;
     QRect bassKeyRect() const;
 

@@ -339,16 +339,14 @@ void NotesWidget::drawNote(QPainter& painter, const StaffGeometry& geometry)
     if (!m_notePixmap.isNull())
         painter.drawPixmap(box, m_notePixmap);
 
-    QString sign;
-    if (isFlat())
-        sign = kFlatSign;
-    else if (isSharp())
-        sign = QStringLiteral("#");
-    if (!sign.isEmpty() && geometry.signPixelSize() > 0) {
-        QFont font = this->font();
-        font.setPixelSize(geometry.signPixelSize());
-        painter.setFont(font);
-        painter.drawText(geometry.signBasePoint(width(), top), sign);
+    // The music font's sharp or flat, in front of the head.
+    const QString signPicture = isFlat() ? QStringLiteral(":/staffflat.png")
+        : isSharp()                      ? QStringLiteral(":/staffsharp.png")
+                                         : QString();
+    if (!signPicture.isEmpty()) {
+        const QPixmap sign(signPicture);
+        if (!sign.isNull())
+            painter.drawPixmap(geometry.signRect(width(), top, sign.size()), sign, QRectF(sign.rect()));
     }
 
     int letter = 0;
