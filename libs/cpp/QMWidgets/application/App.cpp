@@ -4,6 +4,7 @@
 #include "App_mac.h"
 #include "BlenderWidget.h"
 #include "CorvaneSite.h"
+#include "FocusRing.h"
 #include "HelpDialog.h"
 #include "MessageLog.h"
 #include "ProductLinks.h"
@@ -70,6 +71,9 @@ App::App(int& argc, char** argv, const QString& organizationName, const QString&
     m_isDirectDistribution = true;
 
     disableTerminalOuput();
+
+    // Every window shows where Tab took the focus.
+    new FocusRing(this);
 
     if (settingsValue(QStringLiteral("checkupdates"), true).toBool())
         QTimer::singleShot(2000, this, &App::nop_cuos);
