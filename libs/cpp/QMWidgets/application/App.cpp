@@ -4,6 +4,7 @@
 #include "App_mac.h"
 #include "BlenderWidget.h"
 #include "CorvaneSite.h"
+#include "AppPalette.h"
 #include "FocusRing.h"
 #include "HelpDialog.h"
 #include "MessageLog.h"
@@ -72,8 +73,9 @@ App::App(int& argc, char** argv, const QString& organizationName, const QString&
 
     disableTerminalOuput();
 
-    // Every window shows where Tab took the focus.
+    // Every window shows where Tab took the focus, in the program's colours.
     new FocusRing(this);
+    AppPalette::apply();
 
     if (settingsValue(QStringLiteral("checkupdates"), true).toBool())
         QTimer::singleShot(2000, this, &App::nop_cuos);
