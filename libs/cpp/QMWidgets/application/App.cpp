@@ -1,10 +1,10 @@
 #include "App.h"
 
 #include "AboutDialog.h"
+#include "AppPalette.h"
 #include "App_mac.h"
 #include "BlenderWidget.h"
 #include "CorvaneSite.h"
-#include "AppPalette.h"
 #include "FocusRing.h"
 #include "HelpDialog.h"
 #include "MessageLog.h"
