@@ -1,6 +1,7 @@
 #include "App.h"
 #include "AppStyleSheet.h"
 #include "App_mac.h"
+#include "CommandLine.h"
 #include "CorvaneProducts.h"
 #include "CorvaneSite.h"
 #include "GuitarTonariumMainPage.h"
@@ -15,13 +16,17 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QMWidgets::App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral("GuitarTonarium"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.2"));
+    const int exitCode = QMWidgets::CommandLine::handle(
+        QStringLiteral("Learn where the notes lie on a guitar neck and on the staff."));
+    if (exitCode >= 0)
+        return exitCode;
     // A second launch only brings the running window forward.
     if (Platform::App_mac::instance()->isRunningElsewhere())
         return 0;
 
     app.setAppId(QLatin1String(QMWidgets::CorvaneSite::guitarTonariumStoreId));
     app.setPromotedLink(QLatin1String(QMWidgets::CorvaneSite::webHost) + QStringLiteral("/apps/guitartonarium/"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.2"));
     QCoreApplication::setOrganizationDomain(QLatin1String(QMWidgets::CorvaneSite::domain));
     app.setResourceOffset(QStringLiteral("libs/cpp/QMMusic/"));
     app.setStyleSheet(QMWidgets::AppStyleSheet::text());

@@ -37,6 +37,15 @@ done
 [ -s "$root/usr/lib/tonarium/Resources/guitar_440_A4.mp3" ] || fail "no samples beside the program"
 [ -s "$root/usr/lib/tonarium/Resources/TRXSlide0_de.jpg" ] || fail "no introduction slides beside the program"
 
+# The command line of the installed program.
+home=$(mktemp -d)
+version=$(HOME=$home QT_QPA_PLATFORM=offscreen "$root/usr/bin/GuitarTonarium" --version 2>/dev/null)
+[ "$version" = "GuitarTonarium 1.2" ] || fail "--version printed '$version'"
+status=0
+HOME=$home QT_QPA_PLATFORM=offscreen "$root/usr/bin/GuitarTonarium" --no-such-option >/dev/null 2>&1 || status=$?
+[ "$status" = 2 ] || fail "an unknown option ended with $status, not 2"
+rm -rf "$home"
+
 # The installed program, started through its link in bin/.
 "$here/flood-test.sh" "$root/usr/bin/GuitarTonarium" 10
 echo "package test: $(basename "$deb") installs, validates and runs from a scratch root"

@@ -10,6 +10,7 @@
 #include "MessageLog.h"
 #include "ProductLinks.h"
 #include "SettingsStore.h"
+#include "ThirdPartyNotices.h"
 #include "TranslationsManager.h"
 #include "UserDirectories.h"
 
@@ -511,7 +512,7 @@ QString App::legalNotices() const
     if (m_legalNotices.isNull())
         return tr("<H3>This Application Uses:</H3>") + QStringLiteral("Qt ") + QStringLiteral("5")
             + QStringLiteral(" Framework<BR>") + QStringLiteral("<a href=\"%1\">%1</a>").arg(CorvaneSite::qtWebSite)
-            + QStringLiteral("<BR>");
+            + QStringLiteral("<BR>") + ThirdPartyNotices::html();
     return m_legalNotices;
 }
 

@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QTextBrowser>
 
+#include <algorithm>
+
 using namespace QMWidgets;
 
 class TestAboutDialog : public QObject
@@ -72,6 +74,41 @@ private slots:
         QVERIFY(!dialog.isVisible());
         QVERIFY(!logo->isHidden());
         QVERIFY(browser->isHidden());
+    }
+
+    void noticesNameEveryPieceWithItsLicence_data()
+    {
+        QTest::addColumn<QString>("piece");
+        QTest::addColumn<QString>("licence");
+        QTest::newRow("Qt") << "Qt 5 Framework"
+                            << "";
+        QTest::newRow("mp3 decoder") << "libmpg123"
+                                     << "LGPL 2.1";
+        QTest::newRow("wave decoder") << "libsndfile"
+                                      << "LGPL 2.1 or later";
+        QTest::newRow("sound output") << "PulseAudio"
+                                      << "LGPL 2.1 or later";
+        QTest::newRow("music font in the pictures") << "Emmentaler"
+                                                    << "Open Font License 1.1";
+        QTest::newRow("text font in the pictures") << "DejaVu"
+                                                   << "Bitstream Vera";
+        QTest::newRow("encoder of the samples") << "LAME"
+                                                << "LGPL 2 or later";
+    }
+
+    // What the about box shows behind "Legal Notices": every library and font
+    // whose work ships in the program, with its licence on the same line.
+    void noticesNameEveryPieceWithItsLicence()
+    {
+        QFETCH(QString, piece);
+        QFETCH(QString, licence);
+        QTextBrowser browser;
+        browser.setHtml(App::theApp()->legalNotices());
+        const QStringList lines = browser.toPlainText().split(QLatin1Char('\n'));
+        const auto line
+            = std::find_if(lines.cbegin(), lines.cend(), [&](const QString& text) { return text.contains(piece); });
+        QVERIFY2(line != lines.cend(), qPrintable(browser.toPlainText()));
+        QVERIFY2(line->contains(licence), qPrintable(*line));
     }
 };
 
