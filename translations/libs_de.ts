@@ -40,7 +40,7 @@
     </message>
 </context>
 <context>
-    <name>QMMusic::GuitarTonarium</name>
+    <name>QMMusic::FinderLayout</name>
     <message>
         <source>Info</source>
         <translation>Info</translation>

@@ -1,8 +1,10 @@
 // artgen: draws the program's pictures and synthesises its samples.
 #include "ArtWriter.h"
 #include "DesktopIconArt.h"
+#include "FingerboardArt.h"
 #include "FrameArt.h"
 #include "GuitarSampleSynth.h"
+#include "InstrumentSideArt.h"
 #include "LookArt.h"
 #include "MetronomeSoundSynth.h"
 #include "NeckArt.h"
@@ -34,7 +36,9 @@ int main(int argc, char* argv[])
     LookArt::generate(writer);
     StaffArt::generate(writer);
     NeckArt::generate(writer);
+    FingerboardArt::generate(writer);
     PageArt::generate(writer);
+    InstrumentSideArt::generate(writer);
     TrainerArt::generate(writer);
     FrameArt::generate(writer);
     GuitarSampleSynth::generate(writer);

@@ -3,6 +3,7 @@
 #include "ArtWriter.h"
 #include "GuitarFretMap.h"
 #include "NeckGeometry.h"
+#include "WoodArt.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -21,117 +22,12 @@ const QSize kLargeSize(2048, 497);
 const QSize kSmallSize(800, 194);
 const double kSx = 2048.0 / GuitarFretMap::DesignWidth;
 const double kSy = 497.0 / GuitarFretMap::DesignHeight;
-// The largest mark, glow included, in the 2048 px picture: training keeps a
-// strip of 80 px (at 1x) around a mark, and it must show a whole one.
-const double kMarkMaxExtent = 37.0;
 // The mark's colour: cyan reads clearly on the warm wood.
 const QColor kMarkColour(64, 200, 224);
 
 QPointF toPicture(double x, double y)
 {
     return QPointF(x * kSx, y * kSy);
-}
-
-// Deterministic lattice noise: a hash of the lattice point, smoothly blended.
-double hash(int x, int y, int seed)
-{
-    quint32 h = quint32(x) * 374761393u + quint32(y) * 668265263u + quint32(seed) * 2246822519u;
-    h = (h ^ (h >> 13)) * 1274126177u;
-    h ^= h >> 16;
-    return (h & 0xffffff) / double(0xffffff);
-}
-
-double valueNoise(double x, double y, int seed)
-{
-    const int xi = int(std::floor(x));
-    const int yi = int(std::floor(y));
-    const double fx = x - xi;
-    const double fy = y - yi;
-    const double ux = fx * fx * (3 - 2 * fx);
-    const double uy = fy * fy * (3 - 2 * fy);
-    const double a = hash(xi, yi, seed);
-    const double b = hash(xi + 1, yi, seed);
-    const double c = hash(xi, yi + 1, seed);
-    const double d = hash(xi + 1, yi + 1, seed);
-    return (a + (b - a) * ux) + ((c + (d - c) * ux) - (a + (b - a) * ux)) * uy;
-}
-
-double fbm(double x, double y, int seed)
-{
-    double sum = 0, amplitude = 0.5, total = 0;
-    for (int octave = 0; octave < 4; ++octave) {
-        sum += amplitude * valueNoise(x, y, seed + octave * 17);
-        total += amplitude;
-        x *= 2.03;
-        y *= 2.03;
-        amplitude *= 0.5;
-    }
-    return sum / total;
-}
-
-QRgb mix(const QColor& a, const QColor& b, double t, double light)
-{
-    t = qBound(0.0, t, 1.0);
-    auto channel = [&](int ca, int cb) { return qBound(0, int((ca + (cb - ca) * t) * light), 255); };
-    return qRgb(channel(a.red(), b.red()), channel(a.green(), b.green()), channel(a.blue(), b.blue()));
-}
-
-// A flat wood texture, grain running along its width; darker towards the
-// long edges, where the board curves away from the light.
-QImage woodTexture(const QSize& size, const QColor& dark, const QColor& light, int seed)
-{
-    QImage image(size, QImage::Format_RGB32);
-    for (int v = 0; v < size.height(); ++v) {
-        QRgb* line = reinterpret_cast<QRgb*>(image.scanLine(v));
-        const double across = double(v) / (size.height() - 1);
-        const double edge = 0.72 + 0.28 * std::sin(M_PI * across);
-        for (int u = 0; u < size.width(); ++u) {
-            const double warp = 40.0 * valueNoise(u * 0.0025, v * 0.012, seed + 3);
-            const double vv = v + warp;
-            const double streak = fbm(u * 0.0022, vv * 0.07, seed);
-            const double fine = valueNoise(u * 0.03, vv * 0.55, seed + 7);
-            double t = 0.65 * streak + 0.35 * fine;
-            t = std::pow(qBound(0.0, (t - 0.25) / 0.55, 1.0), 1.4);
-            double shade = edge;
-            const double pore = valueNoise(u * 0.09, vv * 1.3, seed + 11);
-            if (pore > 0.8)
-                shade *= 0.62 + (1.0 - pore) * 1.2;
-            line[u] = mix(dark, light, t, shade);
-        }
-    }
-    return image;
-}
-
-// Fills the quad (picture coordinates) with the texture in perspective.
-void mapTexture(QPainter& painter, const QImage& texture, const QPolygonF& quad)
-{
-    const double w = texture.width();
-    const double h = texture.height();
-    const QPolygonF flat({ QPointF(0, 0), QPointF(w, 0), QPointF(w, h), QPointF(0, h) });
-    QTransform transform;
-    if (!QTransform::quadToQuad(flat, quad, transform))
-        return;
-    painter.save();
-    QPainterPath clip;
-    clip.addPolygon(quad);
-    painter.setClipPath(clip);
-    painter.setTransform(transform);
-    painter.drawImage(QPointF(0, 0), texture);
-    painter.restore();
-}
-
-void drawBackdrop(QPainter& painter)
-{
-    QLinearGradient ground(0, 0, 0, kLargeSize.height());
-    ground.setColorAt(0.0, QColor(38, 34, 36));
-    ground.setColorAt(0.5, QColor(27, 24, 26));
-    ground.setColorAt(1.0, QColor(16, 14, 16));
-    painter.fillRect(QRect(QPoint(0, 0), kLargeSize), ground);
-
-    QRadialGradient glow(QPointF(kLargeSize.width() * 0.55, kLargeSize.height() * 0.45), kLargeSize.width() * 0.6);
-    glow.setColorAt(0.0, QColor(90, 70, 55, 60));
-    glow.setColorAt(1.0, QColor(0, 0, 0, 0));
-    painter.fillRect(QRect(QPoint(0, 0), kLargeSize), glow);
 }
 
 QPolygonF boardQuad(const NeckGeometry& g, double left, double right)
@@ -183,12 +79,12 @@ void drawHeadstock(QPainter& painter, const NeckGeometry& g, double nut)
     painter.drawPath(face);
     painter.restore();
 
-    const QImage veneer = woodTexture(QSize(420, 260), QColor(14, 11, 10), QColor(58, 38, 28), 91);
+    const QImage veneer = WoodArt::woodTexture(QSize(420, 260), QColor(14, 11, 10), QColor(58, 38, 28), 91);
     painter.save();
     painter.setClipPath(face);
     const QPolygonF quad({ toPicture(-5, topNut - 16), toPicture(nut, topNut), toPicture(nut, bottomNut),
         toPicture(-5, bottomNut + 14) });
-    mapTexture(painter, veneer, quad);
+    WoodArt::mapTexture(painter, veneer, quad);
     // Gloss of the lacquer.
     QLinearGradient gloss(0, (topNut - 16) * kSy, 0, (bottomNut + 14) * kSy);
     gloss.setColorAt(0.0, QColor(255, 255, 255, 40));
@@ -204,39 +100,14 @@ void drawHeadstock(QPainter& painter, const NeckGeometry& g, double nut)
 
 void drawFingerboard(QPainter& painter, const NeckGeometry& g, double nut)
 {
-    const QImage rosewood = woodTexture(QSize(2400, 300), QColor(40, 20, 14), QColor(118, 62, 38), 17);
-    mapTexture(painter, rosewood, boardQuad(g, nut, 803));
+    const QImage rosewood = WoodArt::woodTexture(QSize(2400, 300), QColor(40, 20, 14), QColor(118, 62, 38), 17);
+    WoodArt::mapTexture(painter, rosewood, boardQuad(g, nut, 803));
 
     // Cream binding along both edges.
     painter.setPen(QPen(QColor(226, 212, 178), 2.6));
     painter.drawLine(toPicture(nut, g.boardTop(nut)), toPicture(803, g.boardTop(803)));
     painter.setPen(QPen(QColor(200, 184, 150), 3.2));
     painter.drawLine(toPicture(nut, g.boardBottom(nut)), toPicture(803, g.boardBottom(803)));
-}
-
-void drawPearl(QPainter& painter, const QPointF& centre, double radius, int seed)
-{
-    QRadialGradient base(centre - QPointF(radius * 0.3, radius * 0.35), radius * 1.3);
-    base.setColorAt(0.0, QColor(252, 250, 244));
-    base.setColorAt(0.6, QColor(226, 228, 222));
-    base.setColorAt(1.0, QColor(178, 182, 190));
-    painter.setPen(QPen(QColor(60, 40, 30, 160), 1.0));
-    painter.setBrush(base);
-    painter.drawEllipse(centre, radius, radius);
-
-    // The play of colours of mother-of-pearl.
-    QConicalGradient shimmer(centre, seed * 47 % 360);
-    shimmer.setColorAt(0.0, QColor(255, 190, 210, 70));
-    shimmer.setColorAt(0.25, QColor(190, 255, 220, 60));
-    shimmer.setColorAt(0.5, QColor(180, 210, 255, 75));
-    shimmer.setColorAt(0.75, QColor(255, 240, 190, 55));
-    shimmer.setColorAt(1.0, QColor(255, 190, 210, 70));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(shimmer);
-    painter.drawEllipse(centre, radius * 0.92, radius * 0.92);
-
-    painter.setBrush(QColor(255, 255, 255, 150));
-    painter.drawEllipse(centre - QPointF(radius * 0.35, radius * 0.35), radius * 0.28, radius * 0.2);
 }
 
 void drawInlays(QPainter& painter, const NeckGeometry& g)
@@ -247,10 +118,10 @@ void drawInlays(QPainter& painter, const NeckGeometry& g)
         const double cellWidth = g.wires().at(fret) - g.wires().at(fret - 1);
         const double radius = qMin(0.42 * g.spacing(x), 0.34 * cellWidth) * kSx;
         if (fret == 12) {
-            drawPearl(painter, toPicture(x, (g.stringY(2, x) + g.stringY(3, x)) / 2), radius, fret);
-            drawPearl(painter, toPicture(x, (g.stringY(4, x) + g.stringY(5, x)) / 2), radius, fret + 1);
+            WoodArt::drawPearl(painter, toPicture(x, (g.stringY(2, x) + g.stringY(3, x)) / 2), radius, fret);
+            WoodArt::drawPearl(painter, toPicture(x, (g.stringY(4, x) + g.stringY(5, x)) / 2), radius, fret + 1);
         } else {
-            drawPearl(painter, toPicture(x, (g.stringY(3, x) + g.stringY(4, x)) / 2), radius, fret);
+            WoodArt::drawPearl(painter, toPicture(x, (g.stringY(3, x) + g.stringY(4, x)) / 2), radius, fret);
         }
         // Side dot on the binding.
         painter.setPen(Qt::NoPen);
@@ -413,7 +284,7 @@ QImage NeckArt::drawNeck(const NeckGeometry& geometry)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
 
-    drawBackdrop(painter);
+    WoodArt::drawBackdrop(painter, kLargeSize);
     drawNeckShadowAndSide(painter, geometry, nut);
     drawHeadstock(painter, geometry, nut);
     drawFingerboard(painter, geometry, nut);
@@ -424,6 +295,35 @@ QImage NeckArt::drawNeck(const NeckGeometry& geometry)
     drawStrings(painter, geometry, nut);
     painter.end();
     return image;
+}
+
+void NeckArt::drawMark(QPainter& painter, const QPointF& centre, double outer)
+{
+    const double ring = outer * 0.74;
+
+    QRadialGradient glow(centre, outer);
+    QColor clear = kMarkColour;
+    clear.setAlpha(0);
+    QColor soft = kMarkColour;
+    soft.setAlpha(150);
+    glow.setColorAt(0.0, clear);
+    glow.setColorAt(0.55, clear);
+    glow.setColorAt(0.74, soft);
+    glow.setColorAt(1.0, clear);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(glow);
+    painter.drawEllipse(centre, outer, outer);
+
+    QColor tint = kMarkColour;
+    tint.setAlpha(60);
+    painter.setBrush(tint);
+    painter.setPen(QPen(kMarkColour.lighter(115), qMax(1.0, outer * 0.27)));
+    painter.drawEllipse(centre, ring, ring);
+
+    // A short highlight on the upper left, as on glass.
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(255, 255, 255, 150), qMax(0.6, outer * 0.07), Qt::SolidLine, Qt::RoundCap));
+    painter.drawArc(QRectF(centre.x() - ring, centre.y() - ring, 2 * ring, 2 * ring), 100 * 16, 60 * 16);
 }
 
 QImage NeckArt::drawOverlay(const QString& stem, const QSize& size)
@@ -437,38 +337,11 @@ QImage NeckArt::drawOverlay(const QString& stem, const QSize& size)
     const double scale = double(size.width()) / kLargeSize.width();
     const NeckGeometry geometry;
 
-    // A ring around the string at its fret, about one string spacing across,
-    // with a soft glow outside and a tinted, see-through middle, so that the
-    // string stays visible through it.
     for (const NeckGeometry::Place& place : NeckGeometry::places(stem)) {
         const double x = GuitarFretMap::centre(place.string, place.column).x();
         const QPointF centre(x * sx, geometry.stringY(place.string, x) * sy);
-        const double outer = qMin(geometry.spacing(x) * kSx, kMarkMaxExtent) / 2 * scale;
-        const double ring = outer * 0.74;
-
-        QRadialGradient glow(centre, outer);
-        QColor clear = kMarkColour;
-        clear.setAlpha(0);
-        QColor soft = kMarkColour;
-        soft.setAlpha(150);
-        glow.setColorAt(0.0, clear);
-        glow.setColorAt(0.55, clear);
-        glow.setColorAt(0.74, soft);
-        glow.setColorAt(1.0, clear);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(glow);
-        painter.drawEllipse(centre, outer, outer);
-
-        QColor tint = kMarkColour;
-        tint.setAlpha(60);
-        painter.setBrush(tint);
-        painter.setPen(QPen(kMarkColour.lighter(115), qMax(1.0, outer * 0.27)));
-        painter.drawEllipse(centre, ring, ring);
-
-        // A short highlight on the upper left, as on glass.
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(QColor(255, 255, 255, 150), qMax(0.6, outer * 0.07), Qt::SolidLine, Qt::RoundCap));
-        painter.drawArc(QRectF(centre.x() - ring, centre.y() - ring, 2 * ring, 2 * ring), 100 * 16, 60 * 16);
+        const double outer = qMin(geometry.spacing(x) * kSx, MarkMaxExtent) / 2 * scale;
+        drawMark(painter, centre, outer);
     }
     painter.end();
     return image.convertToFormat(QImage::Format_ARGB32);

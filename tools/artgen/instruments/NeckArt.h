@@ -4,6 +4,8 @@
 #include <QString>
 
 class ArtWriter;
+class QPainter;
+class QPointF;
 namespace QMMusic {
 class NeckGeometry;
 }
@@ -13,9 +15,16 @@ class NeckGeometry;
 class NeckArt
 {
 public:
+    // The largest mark, glow included, in a 2048 px picture: training keeps
+    // a strip of 80 px (at 1x) around a mark, and it must show a whole one.
+    static constexpr double MarkMaxExtent = 37.0;
+
     static void generate(ArtWriter& writer);
 
     static QImage drawNeck(const QMMusic::NeckGeometry& geometry);
+    // A ring around a string at its place, `outer` in radius glow included,
+    // with a tinted, see-through middle so that the string shows through.
+    static void drawMark(QPainter& painter, const QPointF& centre, double outer);
     // Transparent picture with a light blue mark on each place of the stem.
     static QImage drawOverlay(const QString& stem, const QSize& size);
 };

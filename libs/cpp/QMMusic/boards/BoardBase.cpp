@@ -1,6 +1,8 @@
 #include "BoardBase.h"
 
+#include "FingerboardMap.h"
 #include "GuitarFretMap.h"
+#include "NoteSpelling.h"
 #include "OverlayStrip.h"
 
 #include <QMouseEvent>
@@ -34,6 +36,19 @@ QPixmap BoardBase::doSingleNote(const QPixmap& overlay)
 void BoardBase::createLayers()
 {
     m_behaviour.setNotes(m_fileStems, m_trainingNotes);
+}
+
+void BoardBase::appendNotes(const FingerboardMap& map)
+{
+    for (const QString& position : map.positions()) {
+        m_fileStems.append(NoteSpelling::positionStem(position));
+        m_trainingNotes.append(position);
+    }
+}
+
+QString BoardBase::noteOn(const FingerboardMap& map, int x, int y) const
+{
+    return map.noteAt(x, y, width(), height(), [this](int cx, int cy, const QPoint& p) { return isIn(cx, cy, p); });
 }
 
 void BoardBase::setTrainButtonChecked()

@@ -8,6 +8,8 @@
 
 namespace QMMusic {
 
+class FingerboardMap;
+
 // The drawn neck of a fretted instrument: background, one overlay per note,
 // a hit test from a press to a note and the Find Note / Training switch.
 // Concrete boards fill their notes and hit test.
@@ -45,6 +47,12 @@ signals:
     void findNoteSelected();
 
 protected:
+    // The stems and training notes of a fingerboard's range, appended.
+    void appendNotes(const FingerboardMap& map);
+    // The position name under a widget point by the fingerboard's boxes,
+    // each tested with this board's isIn().
+    QString noteOn(const FingerboardMap& map, int x, int y) const;
+
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -1,28 +1,10 @@
 #include "GuitarTonarium.h"
 
 #include "DecoratedNotesWidget.h"
+#include "FinderLayout.h"
 #include "GuitarBoard.h"
-#include "Label.h"
-#include "MMessageBox.h"
-
-#include <QBoxLayout>
-#include <QMessageBox>
 
 namespace QMMusic {
-
-namespace {
-
-QMWidgets::Label* makeSideLabel(const QString& objectName, const QString& resource)
-{
-    auto* label = new QMWidgets::Label;
-    label->setObjectName(objectName);
-    label->setMode(QMWidgets::Label::Fill);
-    label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    label->setRetinaPixmap(QPixmap(resource));
-    return label;
-}
-
-} // namespace
 
 GuitarTonarium::GuitarTonarium(QWidget* parent)
     : QFrame(parent)
@@ -36,31 +18,22 @@ GuitarTonarium::GuitarTonarium(QWidget* parent)
     connect(
         m_decoratedNotesWidget, &DecoratedNotesWidget::trainingStarted, m_guitarBoard, &GuitarBoard::slotSetInTraining);
 
-    m_decoratedNotesWidget->setStartLine(8);
-    m_decoratedNotesWidget->setLines(22);
-    m_decoratedNotesWidget->setTranslateLines(5);
-    m_decoratedNotesWidget->setPaperHeightFactor(1.3f);
-    m_decoratedNotesWidget->setObjectName(QStringLiteral("DecoratedNotesWidgetGuitar"));
-    m_decoratedNotesWidget->setInstrumentName(QStringLiteral("guitar"));
-
-    QMWidgets::Label* rightLabel
-        = makeSideLabel(QStringLiteral("GuitarRightLabel"), QStringLiteral(":/guitarright.jpg"));
-    QMWidgets::Label* leftLabel = makeSideLabel(QStringLiteral("GuitarLeftLabel"), QStringLiteral(":/guitarleft.jpg"));
+    FinderLayout::Staff staff;
+    staff.key = QStringLiteral("Guitar");
+    staff.instrumentName = QStringLiteral("guitar");
+    staff.startLine = 8;
+    staff.lines = 22;
+    staff.translateLines = 5;
+    staff.paperHeightFactor = 1.3f;
+    staff.leftPicture = QStringLiteral(":/guitarleft.jpg");
+    staff.rightPicture = QStringLiteral(":/guitarright.jpg");
+    FinderLayout::applyStaff(m_decoratedNotesWidget, staff);
 
     // Both directions: slotSetNote emits nothing, so a note never comes back.
     connect(m_decoratedNotesWidget, &DecoratedNotesWidget::noteChanged, m_guitarBoard, &GuitarBoard::slotSetNote);
     connect(m_guitarBoard, &GuitarBoard::noteChanged, m_decoratedNotesWidget, &DecoratedNotesWidget::slotShowNote);
 
-    auto* notesRow = new QHBoxLayout;
-    notesRow->addWidget(leftLabel);
-    notesRow->addWidget(m_decoratedNotesWidget);
-    notesRow->addWidget(rightLabel);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addLayout(notesRow);
-    layout->addWidget(m_guitarBoard);
+    FinderLayout::layOut(this, m_decoratedNotesWidget, m_guitarBoard, staff);
 
     slotSetFindNoteMode();
 }
@@ -77,10 +50,8 @@ GuitarBoard* GuitarTonarium::guitarBoard() const
 
 void GuitarTonarium::slotSetFindNoteMode()
 {
-    if (m_decoratedNotesWidget->isTrainingStarted()) {
+    if (FinderLayout::refuseDuringTraining(this, m_decoratedNotesWidget)) {
         m_guitarBoard->setTrainButtonChecked();
-        QMWidgets::MMessageBox::information(
-            this, tr("Info"), tr("Please, stop the training to be able to do other actions."), QMessageBox::Ok);
         return;
     }
     m_decoratedNotesWidget->slotSetFindNoteMode();

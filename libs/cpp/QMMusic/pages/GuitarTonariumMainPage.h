@@ -1,13 +1,13 @@
 #pragma once
 
-#include "BaseMainPage.h"
+#include "InstrumentMainPage.h"
 
 namespace QMMusic {
 
 class GuitarTonarium;
 
 // The window of the guitar note finder: the menu bar on top of the page.
-class GuitarTonariumMainPage : public BaseMainPage
+class GuitarTonariumMainPage : public InstrumentMainPage
 {
     Q_OBJECT
     Q_DISABLE_COPY(GuitarTonariumMainPage)
