@@ -4,35 +4,40 @@
 #include "CommandLine.h"
 #include "CorvaneProducts.h"
 #include "CorvaneSite.h"
-#include "GuitarTonariumMainPage.h"
+#include QM_PAGE_HEADER
 #include "WindowGeometry.h"
 
 #include <QScreen>
 
+// One note finder program: the build compiles this file once per
+// instrument, naming the program, its page class and header, the
+// instrument's word for the command line, its store id and the folder of
+// its introduction slides below the Resources folder.
 int main(int argc, char* argv[])
 {
     // Scale with the screen and take the sharp pixmaps on high-density displays,
     // as the pictures and the style's icons come at twice the size.
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QMWidgets::App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral("GuitarTonarium"));
+    QMWidgets::App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral(QM_PROGRAM));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.2"));
     const int exitCode = QMWidgets::CommandLine::handle(
-        QStringLiteral("Learn where the notes lie on a guitar neck and on the staff."));
+        QStringLiteral("Learn where the notes lie on a " QM_INSTRUMENT " neck and on the staff."));
     if (exitCode >= 0)
         return exitCode;
     // A second launch only brings the running window forward.
     if (Platform::App_mac::instance()->isRunningElsewhere())
         return 0;
 
-    app.setAppId(QLatin1String(QMWidgets::CorvaneSite::guitarTonariumStoreId));
-    app.setPromotedLink(QLatin1String(QMWidgets::CorvaneSite::webHost) + QStringLiteral("/apps/guitartonarium/"));
+    app.setAppId(QStringLiteral(QM_STORE_ID));
+    app.setPromotedLink(QLatin1String(QMWidgets::CorvaneSite::webHost) + QStringLiteral("/apps/")
+        + QStringLiteral(QM_PROGRAM).toLower() + QLatin1Char('/'));
     QCoreApplication::setOrganizationDomain(QLatin1String(QMWidgets::CorvaneSite::domain));
     app.setResourceOffset(QStringLiteral("libs/cpp/QMMusic/"));
     app.setStyleSheet(QMWidgets::AppStyleSheet::text());
     app.setCorvaneLinks();
 
-    QMMusic::GuitarTonariumMainPage page;
+    QM_PAGE_CLASS page;
 
     QMWidgets::CorvaneProducts::addTo(page.promoMenuBar());
     page.addShopMenu();
@@ -54,7 +59,8 @@ int main(int argc, char* argv[])
     });
 
     // The translations manager comes into being here, after the page.
-    app.setIntroductionSlides(QMWidgets::App::introductionSlidesFor(app.bundleResourcePath(), app.currentLanguage()));
+    app.setIntroductionSlides(QMWidgets::App::introductionSlidesFor(
+        app.bundleResourcePath() + QStringLiteral(QM_SLIDE_FOLDER), app.currentLanguage()));
 
     page.setWindowTitle(QCoreApplication::applicationName());
     app.setMainWidget(&page);

@@ -68,6 +68,33 @@ int languageIndex(const QString& language)
     return index < 0 ? 0 : index;
 }
 
+// The first slide's title on the other instruments; columns English, German, Russian.
+struct InstrumentTitle
+{
+    const char* key;
+    const char* titles[3];
+};
+
+const InstrumentTitle kInstrumentTitles[] = {
+    { "Ukulele",
+        { "Learn the notes of the ukulele neck", "Lerne die Noten auf dem Ukulelenhals",
+            "Выучите ноты на грифе укулеле" } },
+    { "Violin",
+        { "Learn the notes of the violin fingerboard", "Lerne die Noten auf dem Griffbrett der Geige",
+            "Выучите ноты на грифе скрипки" } },
+    { "Bass",
+        { "Learn the notes of the bass neck", "Lerne die Noten auf dem Basshals",
+            "Выучите ноты на грифе бас-гитары" } },
+    { "Balalaika",
+        { "Learn the notes of the balalaika neck", "Lerne die Noten auf dem Balalaikahals",
+            "Выучите ноты на грифе балалайки" } },
+    { "Banjo",
+        { "Learn the notes of the banjo neck", "Lerne die Noten auf dem Banjohals", "Выучите ноты на грифе банджо" } },
+    { "Mandolin",
+        { "Learn the notes of the mandolin neck", "Lerne die Noten auf dem Mandolinenhals",
+            "Выучите ноты на грифе мандолины" } },
+};
+
 } // namespace
 
 QStringList SlideCaptions::languages()
@@ -75,10 +102,16 @@ QStringList SlideCaptions::languages()
     return { QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("ru") };
 }
 
-QString SlideCaptions::title(int slide, const QString& language)
+QString SlideCaptions::title(int slide, const QString& language, const QString& instrument)
 {
     if (slide < 0 || slide >= SlideCount)
         return QString();
+    if (slide == 0) {
+        for (const InstrumentTitle& row : kInstrumentTitles) {
+            if (instrument == QLatin1String(row.key))
+                return QString::fromUtf8(row.titles[languageIndex(language)]);
+        }
+    }
     return QString::fromUtf8(kCaptions[slide][languageIndex(language)].title);
 }
 

@@ -10,6 +10,7 @@ public:
 
     // The languages slides are made for: "en", "de", "ru".
     static QStringList languages();
-    static QString title(int slide, const QString& language);
+    // The first slide names the instrument ("Guitar", "Ukulele", ...).
+    static QString title(int slide, const QString& language, const QString& instrument);
     static QString text(int slide, const QString& language);
 };

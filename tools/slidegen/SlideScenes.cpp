@@ -1,15 +1,29 @@
 #include "SlideScenes.h"
 
 #include "AppButton.h"
+#include "BalalaikaTonarium.h"
+#include "BalalaikaTonariumMainPage.h"
+#include "BanjoTonarium.h"
+#include "BanjoTonariumMainPage.h"
+#include "BassTonarium.h"
+#include "BassTonariumMainPage.h"
+#include "BoardBase.h"
 #include "CorvaneProducts.h"
 #include "DecoratedNotesWidget.h"
+#include "FingerboardDesign.h"
 #include "GuitarBoard.h"
 #include "GuitarTonarium.h"
 #include "GuitarTonariumMainPage.h"
+#include "MandolinTonarium.h"
+#include "MandolinTonariumMainPage.h"
 #include "NotesLernReportDialog.h"
 #include "NotesTrainerWidget.h"
 #include "NotesWidget.h"
 #include "PromoMenuBar.h"
+#include "UkuleleTonarium.h"
+#include "UkuleleTonariumMainPage.h"
+#include "ViolinTonarium.h"
+#include "ViolinTonariumMainPage.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -21,6 +35,7 @@
 
 #include <memory>
 
+using QMMusic::BaseMainPage;
 using QMMusic::GuitarTonariumMainPage;
 
 namespace {
@@ -33,15 +48,93 @@ void settle()
         QApplication::processEvents();
 }
 
-std::unique_ptr<GuitarTonariumMainPage> makePage()
+// A page of one instrument and the parts of it that the scenes touch,
+// whatever the class of its board.
+struct Page
 {
-    auto page = std::make_unique<GuitarTonariumMainPage>();
+    std::unique_ptr<BaseMainPage> window;
+    QMMusic::DecoratedNotesWidget* notes = nullptr;
+    QFrame* board = nullptr;
+    std::function<QString(int, int)> positionToNote;
+    std::function<void(const QString&, int)> setNote;
+    std::function<QString()> currentNote;
+
+    BaseMainPage* get() const { return window.get(); }
+    BaseMainPage* operator->() const { return window.get(); }
+};
+
+template <typename MainPage, typename Tonarium> Page pageOf(Tonarium* (MainPage::*tonarium)() const)
+{
+    auto window = std::make_unique<MainPage>();
+    Tonarium* finder = (window.get()->*tonarium)();
+    QMMusic::BoardBase* board = finder->board();
+    Page page;
+    page.notes = finder->decoratedNotesWidget();
+    page.board = board;
+    page.positionToNote = [board](int x, int y) { return board->positionToNote(x, y); };
+    page.setNote = [board](const QString& name, int accidental) { board->slotSetNote(name, accidental); };
+    page.currentNote = [board]() { return board->currentNote(); };
+    page.window = std::move(window);
+    return page;
+}
+
+Page guitarPage()
+{
+    auto window = std::make_unique<GuitarTonariumMainPage>();
+    QMMusic::GuitarBoard* board = window->guitarTonarium()->guitarBoard();
+    Page page;
+    page.notes = window->guitarTonarium()->decoratedNotesWidget();
+    page.board = board;
+    page.positionToNote = [board](int x, int y) { return board->positionToNote(x, y); };
+    page.setNote = [board](const QString& name, int accidental) { board->slotSetNote(name, accidental); };
+    page.currentNote = [board]() { return board->currentNote(); };
+    page.window = std::move(window);
+    return page;
+}
+
+Page newPage(const QString& key)
+{
+    if (key == QLatin1String("Ukulele"))
+        return pageOf(&QMMusic::UkuleleTonariumMainPage::ukuleleTonarium);
+    if (key == QLatin1String("Violin"))
+        return pageOf(&QMMusic::ViolinTonariumMainPage::violinTonarium);
+    if (key == QLatin1String("Bass"))
+        return pageOf(&QMMusic::BassTonariumMainPage::bassTonarium);
+    if (key == QLatin1String("Balalaika"))
+        return pageOf(&QMMusic::BalalaikaTonariumMainPage::balalaikaTonarium);
+    if (key == QLatin1String("Banjo"))
+        return pageOf(&QMMusic::BanjoTonariumMainPage::banjoTonarium);
+    if (key == QLatin1String("Mandolin"))
+        return pageOf(&QMMusic::MandolinTonariumMainPage::mandolinTonarium);
+    return guitarPage();
+}
+
+Page makePage(const QString& key)
+{
+    Page page = newPage(key);
     QMWidgets::CorvaneProducts::addTo(page->promoMenuBar());
     page->addShopMenu();
     page->resize(kPageSize);
     page->show();
     settle();
     return page;
+}
+
+// The notes the scenes show: the guitar's, or on another instrument notes
+// at the same distance above its lowest note, moved to a natural.
+QString sceneNote(const QString& key, const QString& guitarNote)
+{
+    const QMMusic::FingerboardDesign& design = QMMusic::FingerboardDesign::forKey(key);
+    if (design.openNotes.isEmpty())
+        return guitarNote;
+    static const char* const letters = "C D EF G A B";
+    const int guitarLowest = 40; // E2
+    const int octave = guitarNote.mid(1, 1).toInt();
+    const int midi = (octave + 1) * 12 + int(strchr(letters, guitarNote.at(0).toLatin1()) - letters);
+    int note = design.lowestNote + (midi - guitarLowest);
+    while (letters[note % 12] == ' ')
+        ++note;
+    return QLatin1Char(letters[note % 12]) + QString::number(note / 12 - 1);
 }
 
 QImage grab(QWidget* widget)
@@ -56,24 +149,23 @@ QRectF geometryIn(const QWidget* widget, const QWidget* ancestor)
 }
 
 // Shows a note as a press on the board does, without sounding it.
-void showNote(GuitarTonariumMainPage& page, const QString& name, int accidental)
+void showNote(Page& page, const QString& name, int accidental)
 {
-    QMMusic::GuitarTonarium* tonarium = page.guitarTonarium();
-    tonarium->guitarBoard()->slotSetNote(name, accidental);
-    tonarium->decoratedNotesWidget()->slotShowNote(name, accidental);
+    page.setNote(name, accidental);
+    page.notes->slotShowNote(name, accidental);
 }
 
 // The places of a position on the board, one box per place, in page
 // coordinates.
-QList<QRectF> placesOf(GuitarTonariumMainPage& page, const QString& positionName)
+QList<QRectF> placesOf(Page& page, const QString& positionName)
 {
-    const QMMusic::GuitarBoard* board = page.guitarTonarium()->guitarBoard();
+    const QFrame* board = page.board;
     QList<QRectF> boxes;
     for (int y = 0; y < board->height(); y += 3) {
         for (int x = 0; x < board->width(); x += 3) {
-            if (board->positionToNote(x, y) != positionName)
+            if (page.positionToNote(x, y) != positionName)
                 continue;
-            const QPointF point = board->mapTo(&page, QPoint(x, y));
+            const QPointF point = board->mapTo(page.get(), QPoint(x, y));
             bool merged = false;
             for (QRectF& box : boxes) {
                 if (box.adjusted(-6, -6, 6, 6).contains(point)) {
@@ -105,25 +197,26 @@ void click(QPushButton* button)
     settle();
 }
 
-SlideScenes::Scene welcome()
+SlideScenes::Scene welcome(const QString& key)
 {
-    auto page = makePage();
-    showNote(*page, QStringLiteral("C3"), 0);
+    Page page = makePage(key);
+    showNote(page, sceneNote(key, QStringLiteral("C3")), 0);
     return { grab(page.get()), {} };
 }
 
-SlideScenes::Scene findOnNeck()
+SlideScenes::Scene findOnNeck(const QString& key)
 {
-    auto page = makePage();
-    showNote(*page, QStringLiteral("A3"), 0);
-    return { grab(page.get()), placesOf(*page, QStringLiteral("A3")) };
+    Page page = makePage(key);
+    const QString note = sceneNote(key, QStringLiteral("A3"));
+    showNote(page, note, 0);
+    return { grab(page.get()), placesOf(page, note) };
 }
 
-SlideScenes::Scene staffAndSigns()
+SlideScenes::Scene staffAndSigns(const QString& key)
 {
-    auto page = makePage();
-    showNote(*page, QStringLiteral("F3"), 1);
-    QMMusic::DecoratedNotesWidget* decorated = page->guitarTonarium()->decoratedNotesWidget();
+    Page page = makePage(key);
+    showNote(page, sceneNote(key, QStringLiteral("F3")), 1);
+    QMMusic::DecoratedNotesWidget* decorated = page.notes;
     const QImage whole = grab(page.get());
     const QRectF area = geometryIn(decorated, page.get());
     const qreal ratio = whole.devicePixelRatio();
@@ -138,27 +231,26 @@ SlideScenes::Scene staffAndSigns()
     return { content, rings };
 }
 
-SlideScenes::Scene hearNotes()
+SlideScenes::Scene hearNotes(const QString& key)
 {
-    auto page = makePage();
-    QMMusic::NotesWidget* staff = page->guitarTonarium()->decoratedNotesWidget()->notesWidget();
+    Page page = makePage(key);
+    QMMusic::NotesWidget* staff = page.notes->notesWidget();
     // A hover over the staff, as the mouse gives it: the board follows.
-    const QPoint point(staff->width() / 2, staff->nameToPos(QStringLiteral("E4")).y());
+    const QPoint point(staff->width() / 2, staff->nameToPos(sceneNote(key, QStringLiteral("E4"))).y());
     QMouseEvent move(QEvent::MouseMove, point, staff->mapToGlobal(point), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(staff, &move);
     settle();
     const QPointF centre = staff->mapTo(page.get(), point);
     QList<QRectF> rings { QRectF(centre - QPointF(18, 14), QSizeF(36, 28)) };
-    rings.append(placesOf(*page, page->guitarTonarium()->guitarBoard()->currentNote()));
+    rings.append(placesOf(page, page.currentNote()));
     return { grab(page.get()), rings };
 }
 
-SlideScenes::Scene training()
+SlideScenes::Scene training(const QString& key)
 {
-    auto page = makePage();
-    QMMusic::GuitarTonarium* tonarium = page->guitarTonarium();
-    click(buttonWithText(tonarium->guitarBoard(), QStringLiteral("Training")));
-    QMMusic::NotesTrainerWidget* trainer = tonarium->decoratedNotesWidget()->trainerWidget();
+    Page page = makePage(key);
+    click(buttonWithText(page.board, QStringLiteral("Training")));
+    QMMusic::NotesTrainerWidget* trainer = page.notes->trainerWidget();
     click(buttonWithText(trainer, QStringLiteral("Start")));
     QList<QRectF> rings;
     if (QWidget* key = trainer->keyButton(QStringLiteral("C")))
@@ -179,9 +271,9 @@ SlideScenes::Scene report()
     return { grab(&dialog), {} };
 }
 
-SlideScenes::Scene menus()
+SlideScenes::Scene menus(const QString& key)
 {
-    auto page = makePage();
+    Page page = makePage(key);
     QMWidgets::PromoMenuBar* bar = page->promoMenuBar();
     const QImage pagePicture = grab(page.get());
 
@@ -222,7 +314,8 @@ SlideScenes::Scene menus()
 
 } // namespace
 
-QVector<SlideScenes::Scene> SlideScenes::render()
+QVector<SlideScenes::Scene> SlideScenes::render(const QString& instrumentKey)
 {
-    return { welcome(), findOnNeck(), staffAndSigns(), hearNotes(), training(), report(), menus() };
+    return { welcome(instrumentKey), findOnNeck(instrumentKey), staffAndSigns(instrumentKey), hearNotes(instrumentKey),
+        training(instrumentKey), report(), menus(instrumentKey) };
 }

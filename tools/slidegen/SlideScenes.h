@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QList>
 #include <QRectF>
+#include <QString>
 #include <QVector>
 
 // The program's own widgets, set up and rendered for each introduction
@@ -16,5 +17,6 @@ public:
         QList<QRectF> rings;
     };
 
-    static QVector<Scene> render();
+    // The scenes on the page of an instrument key ("Guitar", "Ukulele", ...).
+    static QVector<Scene> render(const QString& instrumentKey);
 };

@@ -1,6 +1,7 @@
-// slidegen: renders the introduction slides from the program's own widgets,
-// with captions in each slide language, into the Resources folder; given a
-// second folder, also the screenshots of the program's store listing.
+// slidegen: renders the introduction slides from a program's own widgets,
+// with captions in each slide language, into a folder; given a second
+// folder, also the screenshots of the program's store listing. A third
+// argument names the instrument ("Ukulele"), the guitar by default.
 #include "App.h"
 #include "AppStyleSheet.h"
 #include "SlideCaptions.h"
@@ -16,28 +17,30 @@ int main(int argc, char* argv[])
     if (argc < 2)
         return 1;
     const QString outputDir = QString::fromLocal8Bit(argv[1]);
+    const QString instrument = argc > 3 ? QString::fromLocal8Bit(argv[3]) : QStringLiteral("Guitar");
+    const QString program = instrument + QStringLiteral("Tonarium");
 
     // The application object makes the per-user folders; a throw-away home
     // keeps the builder's own untouched, and no update check may start.
     QTemporaryDir home;
     qputenv("HOME", home.path().toUtf8());
-    QSettings seed(home.path() + QStringLiteral("/Library/Application Support/GuitarTonarium/settings.plist"),
+    QSettings seed(home.path() + QStringLiteral("/Library/Application Support/%1/settings.plist").arg(program),
         QSettings::IniFormat);
-    seed.setValue(QStringLiteral("GuitarTonarium/checkupdates"), false);
+    seed.setValue(program + QStringLiteral("/checkupdates"), false);
     seed.sync();
 
     // The offscreen screen is 800 by 600: the page fills it, and the menus
     // open at full length as they do on a desktop.
-    QMWidgets::App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral("GuitarTonarium"));
+    QMWidgets::App app(argc, argv, QStringLiteral("Corvane"), program);
     app.setStyleSheet(QMWidgets::AppStyleSheet::text());
 
-    const QVector<SlideScenes::Scene> scenes = SlideScenes::render();
+    const QVector<SlideScenes::Scene> scenes = SlideScenes::render(instrument);
     QDir().mkpath(outputDir);
     bool ok = true;
     for (const QString& language : SlideCaptions::languages()) {
         for (int n = 0; n < scenes.size(); ++n) {
             const QImage slide = SlideComposer::compose(scenes.at(n).content, scenes.at(n).rings,
-                SlideCaptions::title(n, language), SlideCaptions::text(n, language));
+                SlideCaptions::title(n, language, instrument), SlideCaptions::text(n, language));
             ok = slide.save(outputDir + QStringLiteral("/TRXSlide%1_%2.jpg").arg(n).arg(language), "JPG", 88) && ok;
         }
     }

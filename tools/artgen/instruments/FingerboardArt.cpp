@@ -262,7 +262,8 @@ void drawBody(QPainter& painter, const FingerboardDesign& d, const Look& look)
         // A rounded shoulder that starts at the neck's heel.
         const double bulge = look.body == Body::Violin ? 110 : 150;
         body.moveTo(toPicture(kEnd, mid - bulge - 30));
-        body.cubicTo(toPicture(look.bodyX + 40, mid - bulge), toPicture(look.bodyX, mid - 50), toPicture(look.bodyX, mid));
+        body.cubicTo(
+            toPicture(look.bodyX + 40, mid - bulge), toPicture(look.bodyX, mid - 50), toPicture(look.bodyX, mid));
         body.cubicTo(toPicture(look.bodyX, mid + 50), toPicture(look.bodyX + 40, mid + bulge),
             toPicture(kEnd, mid + bulge + 30));
         body.closeSubpath();
@@ -274,8 +275,8 @@ void drawBody(QPainter& painter, const FingerboardDesign& d, const Look& look)
     painter.fillPath(body, QColor(0, 0, 0, 90));
     painter.restore();
 
-    const QPolygonF quad({ toPicture(look.bodyX, -40), toPicture(kEnd, -40), toPicture(kEnd, 234),
-        toPicture(look.bodyX, 234) });
+    const QPolygonF quad(
+        { toPicture(look.bodyX, -40), toPicture(kEnd, -40), toPicture(kEnd, 234), toPicture(look.bodyX, 234) });
     fillWood(painter, body, quad, look.bodyDark, look.bodyLight, 41);
     if (look.body == Body::Pickup) {
         // Sunburst: dark towards the edge of the body.
@@ -352,10 +353,10 @@ void drawNeck(QPainter& painter, const FingerboardDesign& d, const Look& look)
     side.setColorAt(0.0, look.headLight.darker(130));
     side.setColorAt(1.0, look.headDark.darker(200));
     painter.setBrush(side);
-    painter.drawPolygon(QPolygonF({ toPicture(d.nutX, boardBottom(d, look, d.nutX)),
-        toPicture(heel, boardBottom(d, look, heel)),
-        toPicture(heel, boardBottom(d, look, heel) + depth * d.spacing(heel)),
-        toPicture(d.nutX, boardBottom(d, look, d.nutX) + depth * d.spacing(d.nutX)) }));
+    painter.drawPolygon(
+        QPolygonF({ toPicture(d.nutX, boardBottom(d, look, d.nutX)), toPicture(heel, boardBottom(d, look, heel)),
+            toPicture(heel, boardBottom(d, look, heel) + depth * d.spacing(heel)),
+            toPicture(d.nutX, boardBottom(d, look, d.nutX) + depth * d.spacing(d.nutX)) }));
 
     QPainterPath board;
     board.addPolygon(boardQuad(d, look, d.nutX, heel));
@@ -377,16 +378,20 @@ void drawHeadstock(QPainter& painter, const FingerboardDesign& d, const Look& lo
         // The pegbox, open on top, ending in the scroll.
         face.moveTo(toPicture(d.nutX, top));
         face.lineTo(toPicture(far + 18, top - 4));
-        face.cubicTo(toPicture(far - 10, top - 26), toPicture(far - 44, top - 8), toPicture(far - 40, (top + bottom) / 2));
-        face.cubicTo(toPicture(far - 44, bottom + 8), toPicture(far - 10, bottom + 26), toPicture(far + 18, bottom + 4));
+        face.cubicTo(
+            toPicture(far - 10, top - 26), toPicture(far - 44, top - 8), toPicture(far - 40, (top + bottom) / 2));
+        face.cubicTo(
+            toPicture(far - 44, bottom + 8), toPicture(far - 10, bottom + 26), toPicture(far + 18, bottom + 4));
         face.lineTo(toPicture(d.nutX, bottom));
         face.closeSubpath();
     } else {
         const double flare = look.body == Body::Drum || look.body == Body::Oval ? 20 : 12;
         face.moveTo(toPicture(d.nutX, top));
-        face.cubicTo(toPicture(d.nutX - 20, top - 2), toPicture(far + 20, top - flare), toPicture(far, top - flare + 2));
+        face.cubicTo(
+            toPicture(d.nutX - 20, top - 2), toPicture(far + 20, top - flare), toPicture(far, top - flare + 2));
         face.quadTo(toPicture(far - 14, (top + bottom) / 2), toPicture(far, bottom + flare - 2));
-        face.cubicTo(toPicture(far + 20, bottom + flare), toPicture(d.nutX - 20, bottom + 2), toPicture(d.nutX, bottom));
+        face.cubicTo(
+            toPicture(far + 20, bottom + flare), toPicture(d.nutX - 20, bottom + 2), toPicture(d.nutX, bottom));
         face.closeSubpath();
     }
     painter.save();
@@ -456,7 +461,8 @@ void drawFittings(QPainter& painter, const FingerboardDesign& d, const Look& loo
     // The nut, of bone (ebony on the violin).
     const double left = d.nutX - 3.4;
     const double right = d.nutX + 1.6;
-    const QRectF bone(toPicture(left, boardTop(d, look, d.nutX) - 1), toPicture(right, boardBottom(d, look, d.nutX) + 1));
+    const QRectF bone(
+        toPicture(left, boardTop(d, look, d.nutX) - 1), toPicture(right, boardBottom(d, look, d.nutX) + 1));
     QLinearGradient shade(bone.topLeft(), bone.topRight());
     shade.setColorAt(0.0, wooden ? QColor(20, 18, 16) : QColor(196, 184, 156));
     shade.setColorAt(0.4, wooden ? QColor(70, 64, 60) : QColor(246, 240, 222));
@@ -490,8 +496,8 @@ void drawFretsAndInlays(QPainter& painter, const FingerboardDesign& d, const Loo
         const double between = (d.stringY(middle, x) + d.stringY(middle + 1, x)) / 2;
         if (fret == 12 && d.stringCount() >= 4) {
             WoodArt::drawPearl(painter, toPicture(x, (d.stringY(1, x) + d.stringY(2, x)) / 2), radius, fret);
-            WoodArt::drawPearl(painter, toPicture(x, (d.stringY(middle + 1, x) + d.stringY(middle + 2, x)) / 2),
-                radius, fret + 1);
+            WoodArt::drawPearl(
+                painter, toPicture(x, (d.stringY(middle + 1, x) + d.stringY(middle + 2, x)) / 2), radius, fret + 1);
         } else {
             WoodArt::drawPearl(painter, toPicture(x, between), radius, fret);
         }
@@ -536,8 +542,7 @@ void drawString(QPainter& painter, const FingerboardDesign& d, const Look& look,
     const bool shortString = !d.firstColumns.isEmpty() && d.firstColumns.value(string - 1) > 0;
     const double start = shortString ? d.wireX(d.firstColumns.at(string - 1)) - 6 : postX(d, string);
     const double width = look.widths.value(string - 1, 2.0);
-    const bool wound = look.strings == Strings::RoundWound
-        || (look.strings == Strings::Violin && string > 1)
+    const bool wound = look.strings == Strings::RoundWound || (look.strings == Strings::Violin && string > 1)
         || (look.strings == Strings::Steel && width >= 2.2);
     const bool nylon = look.strings == Strings::Nylon;
 
@@ -633,8 +638,8 @@ void FingerboardArt::generate(ArtWriter& writer)
         const FingerboardDesign& design = FingerboardDesign::forKey(key);
         const QImage board = drawBoard(design);
         writer.addPicture(key + QStringLiteral("_0@2x.jpg"), board, 90);
-        writer.addPicture(
-            key + QStringLiteral("_0.jpg"), board.scaled(kSmallSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), 90);
+        writer.addPicture(key + QStringLiteral("_0.jpg"),
+            board.scaled(kSmallSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), 90);
         for (const QString& stem : design.stems()) {
             writer.addPicture(QStringLiteral("%1_%2@2x.png").arg(key, stem), drawOverlay(design, stem, kLargeSize));
             writer.addPicture(QStringLiteral("%1_%2.png").arg(key, stem), drawOverlay(design, stem, kSmallSize));

@@ -135,7 +135,8 @@ QStringList FingerboardMap::problems() const
     QStringList found;
     const QSet<QString> range(m_positions.cbegin(), m_positions.cend());
     for (const Box& box : m_boxes) {
-        const QString where = QStringLiteral("%1 string %2 column %3").arg(m_design.key).arg(box.string).arg(box.column);
+        const QString where
+            = QStringLiteral("%1 string %2 column %3").arg(m_design.key).arg(box.string).arg(box.column);
         if (box.centre.x() < 0 || box.centre.x() >= GuitarFretMap::DesignWidth || box.centre.y() < 0
             || box.centre.y() >= GuitarFretMap::DesignHeight)
             found.append(where + QStringLiteral(": centre outside the design space"));

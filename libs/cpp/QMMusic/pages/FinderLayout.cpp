@@ -59,9 +59,8 @@ bool FinderLayout::refuseDuringTraining(QWidget* finder, DecoratedNotesWidget* n
 {
     if (!notes->isTrainingStarted())
         return false;
-    QMWidgets::MMessageBox::information(finder, tr("Info"),
-        tr("Please, stop the training to be able to do other actions."),
-        QMessageBox::Ok);
+    QMWidgets::MMessageBox::information(
+        finder, tr("Info"), tr("Please, stop the training to be able to do other actions."), QMessageBox::Ok);
     return true;
 }
 

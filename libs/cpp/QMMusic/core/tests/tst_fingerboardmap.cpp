@@ -48,12 +48,24 @@ void tst_FingerboardMap::instruments()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("lowest");
     QTest::addColumn<QString>("highest");
-    QTest::newRow("ukulele") << "Ukulele" << "C4" << "C6";
-    QTest::newRow("violin") << "Violin" << "G3" << "B5";
-    QTest::newRow("bass") << "Bass" << "E1" << "D4#";
-    QTest::newRow("balalaika") << "Balalaika" << "E4" << "E6";
-    QTest::newRow("banjo") << "Banjo" << "D3" << "C6#";
-    QTest::newRow("mandolin") << "Mandolin" << "G3" << "A6";
+    QTest::newRow("ukulele") << "Ukulele"
+                             << "C4"
+                             << "C6";
+    QTest::newRow("violin") << "Violin"
+                            << "G3"
+                            << "B5";
+    QTest::newRow("bass") << "Bass"
+                          << "E1"
+                          << "D4#";
+    QTest::newRow("balalaika") << "Balalaika"
+                               << "E4"
+                               << "E6";
+    QTest::newRow("banjo") << "Banjo"
+                           << "D3"
+                           << "C6#";
+    QTest::newRow("mandolin") << "Mandolin"
+                              << "G3"
+                              << "A6";
 }
 
 // The centre of every box answers that box's note: no box hides behind
