@@ -3,6 +3,7 @@
 #include "DesktopIconArt.h"
 #include "FrameArt.h"
 #include "GuitarSampleSynth.h"
+#include "InstrumentSampleSynth.h"
 #include "LookArt.h"
 #include "MetronomeSoundSynth.h"
 #include "NeckArt.h"
@@ -38,6 +39,7 @@ int main(int argc, char* argv[])
     TrainerArt::generate(writer);
     FrameArt::generate(writer);
     GuitarSampleSynth::generate(writer);
+    InstrumentSampleSynth::generate(writer);
     MetronomeSoundSynth::generate(writer);
     if (parser.isSet(iconsOption) && !DesktopIconArt::generate(parser.value(iconsOption), parser.value(iconNameOption)))
         return 1;

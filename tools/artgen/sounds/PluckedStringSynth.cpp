@@ -106,10 +106,17 @@ QVector<float> PluckedStringSynth::pluck(int midiNote, const Parameters& p)
     // A soft pick smooths the burst, the more so on the low strings.
     const double softness
         = p.softness + p.softnessRise * (midiNote - p.lowestMidiNote) / double(p.highestMidiNote - p.lowestMidiNote);
+    // A burst of pure noise may by chance carry little of the fundamental;
+    // a share of a single kick, with the noise's energy, keeps every note's
+    // fundamental strong.
+    const double kick = p.noiseShare < 1.0 ? (1.0 - p.noiseShare) * std::sqrt(burstLength / 3.0) : 0.0;
     double smooth = 0.0;
-    for (double& value : burst) {
-        smooth += softness * (noise.next() - smooth);
-        value = smooth;
+    for (size_t n = 0; n < burst.size(); ++n) {
+        double input = noise.next();
+        if (p.noiseShare < 1.0)
+            input = p.noiseShare * input + (n == 0 ? kick : 0.0);
+        smooth += softness * (input - smooth);
+        burst[n] = smooth;
     }
     std::vector<double> excitation(static_cast<size_t>(burstLength + combDelay), 0.0);
     for (int n = 0; n < burstLength + combDelay; ++n) {

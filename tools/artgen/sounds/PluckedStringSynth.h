@@ -35,6 +35,9 @@ public:
         // at the lowest note, and how much it rises up to the highest.
         double softness = 0.12;
         double softnessRise = 0.3;
+        // Share of noise in the pluck's burst (1: all noise); the rest is a
+        // single kick that every note's burst has alike.
+        double noiseShare = 1.0;
         // Outer taps of the loop's symmetric three-tap lowpass (0.25 darkest).
         double loopFilterTap = 0.16;
         // Pole of a one-pole lowpass in the loop at the lowest and highest note
