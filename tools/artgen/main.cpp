@@ -4,6 +4,7 @@
 #include "FingerboardArt.h"
 #include "FrameArt.h"
 #include "GuitarSampleSynth.h"
+#include "InstrumentSampleSynth.h"
 #include "InstrumentSideArt.h"
 #include "LookArt.h"
 #include "MetronomeSoundSynth.h"
@@ -42,6 +43,7 @@ int main(int argc, char* argv[])
     TrainerArt::generate(writer);
     FrameArt::generate(writer);
     GuitarSampleSynth::generate(writer);
+    InstrumentSampleSynth::generate(writer);
     MetronomeSoundSynth::generate(writer);
     if (parser.isSet(iconsOption) && !DesktopIconArt::generate(parser.value(iconsOption), parser.value(iconNameOption)))
         return 1;
