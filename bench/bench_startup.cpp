@@ -1,4 +1,4 @@
-// Start-up to the first painted window: launches the real GuitarTonarium on
+// Start-up to the first painted window: launches each real finder program on
 // the X display this benchmark runs on (start it with
 // xvfb-run -a -s "-screen 0 1280x800x24" bench_startup) and watches the
 // screen until the window's first frame shows, then ends the program. The
@@ -25,8 +25,6 @@ private slots:
 private:
     static QImage screenImage();
     static bool differs(const QImage& a, const QImage& b);
-    QString m_program;
-    QString m_emptyWindow;
     bool m_firstFrameSaved = false;
     static constexpr int launches = 9;
 };
@@ -35,8 +33,6 @@ void bench_startup::initTestCase()
 {
     if (QGuiApplication::platformName() != QLatin1String("xcb"))
         QSKIP("needs an X display; run under xvfb-run");
-    m_program = QCoreApplication::applicationDirPath() + QStringLiteral("/GuitarTonarium");
-    m_emptyWindow = QCoreApplication::applicationDirPath() + QStringLiteral("/bench_emptywindow");
 }
 
 QImage bench_startup::screenImage()
@@ -59,16 +55,19 @@ bool bench_startup::differs(const QImage& a, const QImage& b)
 void bench_startup::startupToFirstPaint_data()
 {
     QTest::addColumn<bool>("firstStart");
-    QTest::addColumn<bool>("empty");
-    QTest::newRow("first start, empty home") << true << false;
-    QTest::newRow("later start, settings present") << false << false;
-    QTest::newRow("an empty Qt window of the same size") << false << true;
+    QTest::addColumn<QString>("program");
+    QTest::newRow("GuitarTonarium, first start, empty home") << true << "GuitarTonarium";
+    for (const char* program : { "GuitarTonarium", "UkuleleTonarium", "ViolinTonarium", "BassTonarium",
+             "BalalaikaTonarium", "BanjoTonarium", "MandolinTonarium" })
+        QTest::newRow(qPrintable(QStringLiteral("%1, later start").arg(QLatin1String(program)))) << false << program;
+    QTest::newRow("an empty Qt window of the same size") << false << "bench_emptywindow";
 }
 
 void bench_startup::startupToFirstPaint()
 {
     QFETCH(bool, firstStart);
-    QFETCH(bool, empty);
+    QFETCH(QString, program);
+    const bool empty = program == QLatin1String("bench_emptywindow");
     QTemporaryDir home;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("HOME"), home.path());
@@ -80,13 +79,13 @@ void bench_startup::startupToFirstPaint()
             QDir().mkpath(home.path());
         }
         const QImage before = screenImage();
-        QProcess program;
-        program.setProcessEnvironment(environment);
+        QProcess process;
+        process.setProcessEnvironment(environment);
         QElapsedTimer clock;
         clock.start();
-        program.start(empty ? m_emptyWindow : m_program, QStringList());
+        process.start(QCoreApplication::applicationDirPath() + QLatin1Char('/') + program, QStringList());
         QImage now = before;
-        while (clock.elapsed() < 20000 && program.state() != QProcess::NotRunning) {
+        while (clock.elapsed() < 20000 && process.state() != QProcess::NotRunning) {
             QTest::qWait(2);
             now = screenImage();
             if (differs(before, now))
@@ -95,8 +94,8 @@ void bench_startup::startupToFirstPaint()
         const qint64 elapsed = differs(before, now) ? clock.elapsed() : -1;
         if (!m_firstFrameSaved && elapsed >= 0 && !empty)
             m_firstFrameSaved = now.save(QDir::tempPath() + QStringLiteral("/bench_startup_first_frame.png"));
-        program.kill();
-        program.waitForFinished(5000);
+        process.kill();
+        process.waitForFinished(5000);
         // Let the screen clear before the next launch.
         QElapsedTimer settle;
         settle.start();
