@@ -7,8 +7,10 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 
-# The program's desktop id: the name of its icons, menu entry and metadata.
-set(QM_APP_ID "com.corvane.GuitarTonarium")
+# A program's desktop id is this prefix and its name: the name of its icons,
+# menu entry and metadata.
+set(QM_APP_ID_PREFIX "com.corvane.")
+set(QM_APP_ID "${QM_APP_ID_PREFIX}GuitarTonarium")
 
 # Installed, the programs live in lib/tonarium/ with their Resources/ folder
 # beside them, as in the build; bin/ holds a link to each.

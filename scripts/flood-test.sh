@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Floods the real guitar window with clicks on the fretboard, as an
+# Floods the real window of a finder program with clicks on its fingerboard, as an
 # auto-clicker or a stuck mouse would, then checks that the window still
 # answers and that one more press sounds at the sink.
 #   scripts/flood-test.sh <program> [clicks]
@@ -14,6 +14,7 @@ if [ "${FLOOD_INNER:-}" != 1 ]; then
     FLOOD_INNER=1 exec xvfb-run -a -s "-screen 0 1280x800x24" "$here/flood-test.sh" "$program" "$clicks"
 fi
 
+name=$(basename "$program")
 work=$(mktemp -d)
 app_pid=""
 recorder_pid=""
@@ -30,15 +31,16 @@ fail() {
 
 # A fresh home whose settings skip the introduction.
 export HOME=$work/home
-mkdir -p "$HOME/Library/Application Support/GuitarTonarium"
-printf '[GuitarTonarium]\nNeverShowItAgain=true\n' >"$HOME/Library/Application Support/GuitarTonarium/settings.plist"
+mkdir -p "$HOME/Library/Application Support/$name"
+printf '[%s]\nNeverShowItAgain=true\n' "$name" >"$HOME/Library/Application Support/$name/settings.plist"
 unset QT_QPA_PLATFORM
 "$program" &
 app_pid=$!
-window=$(timeout 20 xdotool search --sync --onlyvisible --name '^GuitarTonarium$' | head -1) || fail "no window"
+window=$(timeout 20 xdotool search --sync --onlyvisible --name "^$name\$" | head -1) || fail "no window"
 sleep 1
 
-# The open A string near the nut, and the two mode buttons above the board.
+# A place on the board (the guitar's open A string, on the ukulele a fret
+# of its C string), and the two mode buttons above the board.
 board_x=300 board_y=514 training_x=447 training_y=427 find_x=351 find_y=427 panel_x=400 panel_y=210
 
 start=$(date +%s%N)

@@ -28,24 +28,37 @@ done
 for metainfo in "$root"/usr/share/metainfo/*.metainfo.xml; do
     appstreamcli validate --no-net --pedantic "$metainfo" >/dev/null || fail "$metainfo"
 done
-for size in 16 22 24 32 48 64 128 256 512; do
-    [ -s "$root/usr/share/icons/hicolor/${size}x$size/apps/com.corvane.GuitarTonarium.png" ] || fail "no $size px icon"
+programs="GuitarTonarium UkuleleTonarium ViolinTonarium BassTonarium BalalaikaTonarium BanjoTonarium MandolinTonarium"
+for program in $programs; do
+    id=com.corvane.$program
+    for size in 16 22 24 32 48 64 128 256 512; do
+        [ -s "$root/usr/share/icons/hicolor/${size}x$size/apps/$id.png" ] || fail "no $size px icon of $program"
+    done
+    [ -s "$root/usr/share/icons/hicolor/scalable/apps/$id.svg" ] || fail "no scalable icon of $program"
+    [ -s "$root/usr/share/applications/$id.desktop" ] || fail "no menu entry of $program"
+    [ -s "$root/usr/share/metainfo/$id.metainfo.xml" ] || fail "no metadata of $program"
 done
-[ -s "$root/usr/share/icons/hicolor/scalable/apps/com.corvane.GuitarTonarium.svg" ] || fail "no scalable icon"
 [ -s "$root/usr/share/doc/tonarium/copyright" ] || fail "no copyright file"
 [ ! -e "$root/usr/bin/Resources" ] || fail "a Resources folder in bin/"
-[ -s "$root/usr/lib/tonarium/Resources/guitar_440_A4.mp3" ] || fail "no samples beside the program"
-[ -s "$root/usr/lib/tonarium/Resources/TRXSlide0_de.jpg" ] || fail "no introduction slides beside the program"
+for sample in guitar_440_A4 ukulele_440_C4 violin_440_G3 bass_440_E1 balalaika_440_E6 banjo_440_Cd6 mandolin_440_A6; do
+    [ -s "$root/usr/lib/tonarium/Resources/$sample.mp3" ] || fail "no $sample.mp3 beside the programs"
+done
+for slides in "" UkuleleTonarium/ ViolinTonarium/ BassTonarium/ BalalaikaTonarium/ BanjoTonarium/ MandolinTonarium/; do
+    [ -s "$root/usr/lib/tonarium/Resources/${slides}TRXSlide0_de.jpg" ] || fail "no introduction slides in Resources/$slides"
+done
 
 # The command line of the installed program.
 home=$(mktemp -d)
-version=$(HOME=$home QT_QPA_PLATFORM=offscreen "$root/usr/bin/GuitarTonarium" --version 2>/dev/null)
-[ "$version" = "GuitarTonarium 1.2" ] || fail "--version printed '$version'"
+for program in $programs; do
+    version=$(HOME=$home QT_QPA_PLATFORM=offscreen "$root/usr/bin/$program" --version 2>/dev/null)
+    [ "$version" = "$program 1.2" ] || fail "$program --version printed '$version'"
+done
 status=0
 HOME=$home QT_QPA_PLATFORM=offscreen "$root/usr/bin/GuitarTonarium" --no-such-option >/dev/null 2>&1 || status=$?
 [ "$status" = 2 ] || fail "an unknown option ended with $status, not 2"
 rm -rf "$home"
 
-# The installed program, started through its link in bin/.
+# The installed programs, started through their links in bin/.
 "$here/flood-test.sh" "$root/usr/bin/GuitarTonarium" 10
+"$here/flood-test.sh" "$root/usr/bin/UkuleleTonarium" 10
 echo "package test: $(basename "$deb") installs, validates and runs from a scratch root"

@@ -2,6 +2,7 @@
 #include "ArtWriter.h"
 #include "DesktopIconArt.h"
 #include "FingerboardArt.h"
+#include "FingerboardDesign.h"
 #include "FrameArt.h"
 #include "GuitarSampleSynth.h"
 #include "InstrumentSampleSynth.h"
@@ -26,8 +27,9 @@ int main(int argc, char* argv[])
     const QCommandLineOption bundleOption("bundle", "Resources folder beside the program.", "dir");
     const QCommandLineOption fontOption("music-font", "Engraving font (Emmentaler).", "file");
     const QCommandLineOption iconsOption("icons", "Folder of the desktop icons (hicolor theme).", "dir");
-    const QCommandLineOption iconNameOption("icon-name", "File name of the desktop icons.", "name");
-    parser.addOptions({ picturesOption, bundleOption, fontOption, iconsOption, iconNameOption });
+    const QCommandLineOption iconPrefixOption(
+        "icon-prefix", "Start of the desktop icons' names, before the program's name.", "prefix");
+    parser.addOptions({ picturesOption, bundleOption, fontOption, iconsOption, iconPrefixOption });
     parser.process(app);
 
     if (parser.isSet(fontOption))
@@ -45,8 +47,19 @@ int main(int argc, char* argv[])
     GuitarSampleSynth::generate(writer);
     InstrumentSampleSynth::generate(writer);
     MetronomeSoundSynth::generate(writer);
-    if (parser.isSet(iconsOption) && !DesktopIconArt::generate(parser.value(iconsOption), parser.value(iconNameOption)))
-        return 1;
+    if (parser.isSet(iconsOption)) {
+        const QString prefix = parser.value(iconPrefixOption);
+        bool iconsWritten
+            = DesktopIconArt::generate(parser.value(iconsOption), prefix + QStringLiteral("GuitarTonarium"));
+        for (const QString& key : QMMusic::FingerboardDesign::keys()) {
+            const QMMusic::FingerboardDesign& design = QMMusic::FingerboardDesign::forKey(key);
+            iconsWritten = DesktopIconArt::generate(parser.value(iconsOption),
+                               prefix + key + QStringLiteral("Tonarium"), { design.stringCount(), design.fretted })
+                && iconsWritten;
+        }
+        if (!iconsWritten)
+            return 1;
+    }
 
     return writer.writeQrc(parser.value(picturesOption) + QStringLiteral("/art.qrc")) ? 0 : 1;
 }

@@ -31,7 +31,7 @@ struct Shape
     double width = 0.0; // stroke width; for the tile its edge
 };
 
-QVector<Shape> drawing(bool small)
+QVector<Shape> drawing(bool small, const DesktopIconArt::Motif& motif)
 {
     QVector<Shape> shapes;
     shapes.append({ Shape::Tile, QRectF(8, 8, 240, 240), {}, kTileColor, small ? 16.0 : 10.0 });
@@ -40,18 +40,19 @@ QVector<Shape> drawing(bool small)
     shapes.append({ Shape::Box, QRectF(28, top, 204, bottom - top), {}, kNeckColor, 0 });
     shapes.append({ Shape::Box, QRectF(28, top, small ? 20 : 12, bottom - top), {}, kNutColor, 0 });
     const QVector<double> frets = small ? QVector<double> { 104, 162, 210 } : QVector<double> { 84, 134, 178, 214 };
-    for (double x : frets)
+    for (double x : motif.fretted ? frets : QVector<double>())
         shapes.append({ Shape::Line, {}, QLineF(x, top, x, bottom), kFretColor, small ? 12.0 : 6.0 });
-    const int strings = small ? 3 : 6;
+    const int strings = small ? qMin(3, motif.strings) : motif.strings;
     const double margin = small ? 26 : 12;
     const double step = (bottom - top - 2 * margin) / (strings - 1);
     for (int i = 0; i < strings; ++i) {
         const double y = top + margin + i * step;
-        shapes.append({ Shape::Line, {}, QLineF(28, y, 232, y), kStringColor, small ? 8.0 : 2.5 + i * 0.9 });
+        shapes.append(
+            { Shape::Line, {}, QLineF(28, y, 232, y), kStringColor, small ? 8.0 : 2.5 + i * 5.4 / motif.strings });
     }
     // The mark: a ring around the middle string between two frets.
     const double markX = small ? 133 : 156;
-    const double markY = small ? 128 : top + margin + 3 * step;
+    const double markY = small ? 128 : top + margin + (strings / 2) * step;
     const double radius = small ? 30 : 22;
     shapes.append({ Shape::Ring, QRectF(markX - radius, markY - radius, 2 * radius, 2 * radius), {}, kMarkColor,
         small ? 16.0 : 9.0 });
@@ -70,14 +71,14 @@ QVector<int> DesktopIconArt::sizes()
     return { 16, 22, 24, 32, 48, 64, 128, 256, 512 };
 }
 
-QImage DesktopIconArt::png(int size)
+QImage DesktopIconArt::png(int size, const Motif& motif)
 {
     QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(size / 256.0, size / 256.0);
-    for (const Shape& shape : drawing(size < 32)) {
+    for (const Shape& shape : drawing(size < 32, motif)) {
         switch (shape.kind) {
         case Shape::Tile:
             painter.setPen(QPen(kEdgeColor, shape.width));
@@ -103,11 +104,11 @@ QImage DesktopIconArt::png(int size)
     return image;
 }
 
-QByteArray DesktopIconArt::svg()
+QByteArray DesktopIconArt::svg(const Motif& motif)
 {
     QString text = QStringLiteral(
         "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"256\" height=\"256\" viewBox=\"0 0 256 256\">\n");
-    for (const Shape& shape : drawing(false)) {
+    for (const Shape& shape : drawing(false, motif)) {
         switch (shape.kind) {
         case Shape::Tile:
             text += QStringLiteral("  <rect x=\"%1\" y=\"%2\" width=\"%3\" height=\"%4\" rx=\"44\" fill=\"%5\" "
@@ -152,15 +153,16 @@ QByteArray DesktopIconArt::svg()
     return text.toUtf8();
 }
 
-bool DesktopIconArt::generate(const QString& dir, const QString& name)
+bool DesktopIconArt::generate(const QString& dir, const QString& name, const Motif& motif)
 {
     bool ok = true;
     for (int size : sizes()) {
         const QString folder = dir + QStringLiteral("/hicolor/%1x%1/apps").arg(size);
-        ok = QDir().mkpath(folder) && png(size).save(folder + QLatin1Char('/') + name + QStringLiteral(".png")) && ok;
+        ok = QDir().mkpath(folder) && png(size, motif).save(folder + QLatin1Char('/') + name + QStringLiteral(".png"))
+            && ok;
     }
     const QString scalable = dir + QStringLiteral("/hicolor/scalable/apps");
     QFile file(scalable + QLatin1Char('/') + name + QStringLiteral(".svg"));
-    ok = QDir().mkpath(scalable) && file.open(QIODevice::WriteOnly) && file.write(svg()) > 0 && ok;
+    ok = QDir().mkpath(scalable) && file.open(QIODevice::WriteOnly) && file.write(svg(motif)) > 0 && ok;
     return ok;
 }
