@@ -15,13 +15,13 @@ ArtWriter::ArtWriter(const QString& picturesDir, const QString& bundleDir)
     QDir().mkpath(m_bundleDir);
 }
 
-bool ArtWriter::addPicture(const QString& resourceName, const QImage& image, int quality)
+bool ArtWriter::addPicture(const QString& resourceName, const QImage& image, int quality, const QString& group)
 {
     const QString path = m_picturesDir + QLatin1Char('/') + resourceName;
     QDir().mkpath(QFileInfo(path).absolutePath());
     if (!image.save(path, nullptr, quality))
         return false;
-    m_pictures.append(resourceName);
+    m_pictures[group].append(resourceName);
     return true;
 }
 
@@ -57,16 +57,23 @@ QString ArtWriter::bundlePath(const QString& fileName) const
     return m_bundleDir + QLatin1Char('/') + fileName;
 }
 
-bool ArtWriter::writeQrc(const QString& qrcFileName) const
+bool ArtWriter::writeQrcFiles(const QString& dir) const
 {
-    QSaveFile file(qrcFileName);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
-        return false;
-    QTextStream out(&file);
-    out << "<!DOCTYPE RCC><RCC version=\"1.0\">\n<qresource prefix=\"/\">\n";
-    for (const QString& name : m_pictures)
-        out << "    <file>" << name << "</file>\n";
-    out << "</qresource>\n</RCC>\n";
-    out.flush();
-    return file.commit();
+    bool ok = true;
+    for (auto group = m_pictures.cbegin(); group != m_pictures.cend(); ++group) {
+        QSaveFile file(dir
+            + (group.key().isEmpty() ? QStringLiteral("/art.qrc") : QStringLiteral("/art_%1.qrc").arg(group.key())));
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+            ok = false;
+            continue;
+        }
+        QTextStream out(&file);
+        out << "<!DOCTYPE RCC><RCC version=\"1.0\">\n<qresource prefix=\"/\">\n";
+        for (const QString& name : group.value())
+            out << "    <file>" << name << "</file>\n";
+        out << "</qresource>\n</RCC>\n";
+        out.flush();
+        ok = file.commit() && ok;
+    }
+    return ok;
 }

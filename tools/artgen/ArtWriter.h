@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -18,8 +19,11 @@ public:
     ArtWriter(const QString& picturesDir, const QString& bundleDir);
 
     // Saves a picture under its resource name, e.g. "Guitar_0@2x.jpg"
-    // becomes ":/Guitar_0@2x.jpg". The format follows the suffix.
-    bool addPicture(const QString& resourceName, const QImage& image, int quality = -1);
+    // becomes ":/Guitar_0@2x.jpg". The format follows the suffix. A picture
+    // of one instrument's program names its group, the instrument key; the
+    // others are every program's.
+    bool addPicture(
+        const QString& resourceName, const QImage& image, int quality = -1, const QString& group = QString());
     // Paints at a logical size, antialiased, and saves "name.png" at that
     // size and "name@2x.png" at twice it.
     using Painter = std::function<void(QPainter&, const QSizeF&)>;
@@ -27,10 +31,13 @@ public:
     // Saves a file into the Resources folder beside the program.
     bool addBundleFile(const QString& fileName, const QByteArray& data);
     QString bundlePath(const QString& fileName) const;
-    bool writeQrc(const QString& qrcFileName) const;
+    // Writes <dir>/art.qrc with every program's pictures and
+    // <dir>/art_<group>.qrc with each group's.
+    bool writeQrcFiles(const QString& dir) const;
 
 private:
     QString m_picturesDir;
     QString m_bundleDir;
-    QStringList m_pictures;
+    // Resource names by group; the empty group is every program's.
+    QMap<QString, QStringList> m_pictures;
 };

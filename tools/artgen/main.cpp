@@ -61,5 +61,5 @@ int main(int argc, char* argv[])
             return 1;
     }
 
-    return writer.writeQrc(parser.value(picturesOption) + QStringLiteral("/art.qrc")) ? 0 : 1;
+    return writer.writeQrcFiles(parser.value(picturesOption)) ? 0 : 1;
 }

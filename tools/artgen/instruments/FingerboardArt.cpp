@@ -637,12 +637,14 @@ void FingerboardArt::generate(ArtWriter& writer)
     for (const QString& key : FingerboardDesign::keys()) {
         const FingerboardDesign& design = FingerboardDesign::forKey(key);
         const QImage board = drawBoard(design);
-        writer.addPicture(key + QStringLiteral("_0@2x.jpg"), board, 90);
+        writer.addPicture(key + QStringLiteral("_0@2x.jpg"), board, 90, key);
         writer.addPicture(key + QStringLiteral("_0.jpg"),
-            board.scaled(kSmallSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), 90);
+            board.scaled(kSmallSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), 90, key);
         for (const QString& stem : design.stems()) {
-            writer.addPicture(QStringLiteral("%1_%2@2x.png").arg(key, stem), drawOverlay(design, stem, kLargeSize));
-            writer.addPicture(QStringLiteral("%1_%2.png").arg(key, stem), drawOverlay(design, stem, kSmallSize));
+            writer.addPicture(
+                QStringLiteral("%1_%2@2x.png").arg(key, stem), drawOverlay(design, stem, kLargeSize), -1, key);
+            writer.addPicture(
+                QStringLiteral("%1_%2.png").arg(key, stem), drawOverlay(design, stem, kSmallSize), -1, key);
         }
     }
 }

@@ -242,7 +242,8 @@ QImage sidePicture(const Side& side, double centreX)
 void InstrumentSideArt::generate(ArtWriter& writer)
 {
     for (const Side& side : kSides) {
-        writer.addPicture(side.fileStem + QStringLiteral("left.jpg"), sidePicture(side, -30.0), 90);
-        writer.addPicture(side.fileStem + QStringLiteral("right.jpg"), sidePicture(side, SideWidth + 30.0), 90);
+        writer.addPicture(side.fileStem + QStringLiteral("left.jpg"), sidePicture(side, -30.0), 90, side.key);
+        writer.addPicture(
+            side.fileStem + QStringLiteral("right.jpg"), sidePicture(side, SideWidth + 30.0), 90, side.key);
     }
 }
