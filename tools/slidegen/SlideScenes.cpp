@@ -63,13 +63,12 @@ struct Page
     BaseMainPage* operator->() const { return window.get(); }
 };
 
-template <typename MainPage, typename Tonarium> Page pageOf(Tonarium* (MainPage::*tonarium)() const)
+// The parts of a page whose board is of type Board.
+template <typename Board>
+Page pageWith(std::unique_ptr<BaseMainPage> window, QMMusic::DecoratedNotesWidget* notes, Board* board)
 {
-    auto window = std::make_unique<MainPage>();
-    Tonarium* finder = (window.get()->*tonarium)();
-    QMMusic::BoardBase* board = finder->board();
     Page page;
-    page.notes = finder->decoratedNotesWidget();
+    page.notes = notes;
     page.board = board;
     page.positionToNote = [board](int x, int y) { return board->positionToNote(x, y); };
     page.setNote = [board](const QString& name, int accidental) { board->slotSetNote(name, accidental); };
@@ -78,18 +77,18 @@ template <typename MainPage, typename Tonarium> Page pageOf(Tonarium* (MainPage:
     return page;
 }
 
+template <typename MainPage, typename Tonarium> Page pageOf(Tonarium* (MainPage::*tonarium)() const)
+{
+    auto window = std::make_unique<MainPage>();
+    Tonarium* finder = (window.get()->*tonarium)();
+    return pageWith(std::move(window), finder->decoratedNotesWidget(), finder->board());
+}
+
 Page guitarPage()
 {
     auto window = std::make_unique<GuitarTonariumMainPage>();
-    QMMusic::GuitarBoard* board = window->guitarTonarium()->guitarBoard();
-    Page page;
-    page.notes = window->guitarTonarium()->decoratedNotesWidget();
-    page.board = board;
-    page.positionToNote = [board](int x, int y) { return board->positionToNote(x, y); };
-    page.setNote = [board](const QString& name, int accidental) { board->slotSetNote(name, accidental); };
-    page.currentNote = [board]() { return board->currentNote(); };
-    page.window = std::move(window);
-    return page;
+    QMMusic::GuitarTonarium* finder = window->guitarTonarium();
+    return pageWith(std::move(window), finder->decoratedNotesWidget(), finder->guitarBoard());
 }
 
 Page newPage(const QString& key)

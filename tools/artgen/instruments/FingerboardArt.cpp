@@ -1,6 +1,7 @@
 #include "FingerboardArt.h"
 
 #include "ArtWriter.h"
+#include "BoardPicture.h"
 #include "FingerboardDesign.h"
 #include "FingerboardMap.h"
 #include "GuitarFretMap.h"
@@ -19,17 +20,13 @@ using QMMusic::GuitarFretMap;
 
 namespace {
 
-const QSize kLargeSize(2048, 497);
-const QSize kSmallSize(800, 194);
-const double kSx = 2048.0 / GuitarFretMap::DesignWidth;
-const double kSy = 497.0 / GuitarFretMap::DesignHeight;
+using BoardPicture::toPicture;
+const QSize kLargeSize = BoardPicture::LargeSize;
+const QSize kSmallSize = BoardPicture::SmallSize;
+constexpr double kSx = BoardPicture::Sx;
+constexpr double kSy = BoardPicture::Sy;
 // Right edge of the drawing, a little beyond the picture.
 const double kEnd = 803.0;
-
-QPointF toPicture(double x, double y)
-{
-    return QPointF(x * kSx, y * kSy);
-}
 
 enum class Body
 {

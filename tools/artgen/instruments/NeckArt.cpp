@@ -1,6 +1,7 @@
 #include "NeckArt.h"
 
 #include "ArtWriter.h"
+#include "BoardPicture.h"
 #include "GuitarFretMap.h"
 #include "NeckGeometry.h"
 #include "WoodArt.h"
@@ -18,17 +19,13 @@ using QMMusic::NeckGeometry;
 
 namespace {
 
-const QSize kLargeSize(2048, 497);
-const QSize kSmallSize(800, 194);
-const double kSx = 2048.0 / GuitarFretMap::DesignWidth;
-const double kSy = 497.0 / GuitarFretMap::DesignHeight;
+using BoardPicture::toPicture;
+const QSize kLargeSize = BoardPicture::LargeSize;
+const QSize kSmallSize = BoardPicture::SmallSize;
+constexpr double kSx = BoardPicture::Sx;
+constexpr double kSy = BoardPicture::Sy;
 // The mark's colour: cyan reads clearly on the warm wood.
 const QColor kMarkColour(64, 200, 224);
-
-QPointF toPicture(double x, double y)
-{
-    return QPointF(x * kSx, y * kSy);
-}
 
 QPolygonF boardQuad(const NeckGeometry& g, double left, double right)
 {

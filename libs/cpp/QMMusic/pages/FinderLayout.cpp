@@ -22,7 +22,51 @@ QMWidgets::Label* makeSideLabel(const QString& objectName, const QString& resour
     return label;
 }
 
+// The staff of every finder: start line, lines, translate lines and paper
+// factor go together with the staff's table of note heights for the
+// instrument; the side pictures show the instrument's body.
+const struct
+{
+    const char* key;
+    const char* instrumentName;
+    int startLine;
+    int lines;
+    int translateLines;
+    float paperHeightFactor;
+    bool noBass;
+    bool noViolin;
+    const char* pictureStem;
+} kStaffs[] = {
+    { "Guitar", "guitar", 8, 22, 5, 1.3f, false, false, "guitar" },
+    { "Ukulele", "Ukulele", 8, 16, 6, 1.6f, true, false, "uku" },
+    { "Violin", "Violin", 8, 17, 6, 1.55f, true, false, "violin" },
+    { "Bass", "Bass", 15, 25, 12, 1.94f, false, true, "bass" },
+    { "Balalaika", "Balalaika", 7, 15, 6, 1.53f, true, false, "balalaika" },
+    { "Banjo", "Banjo", 8, 19, 5, 1.42f, true, false, "banjo" },
+    { "Mandolin", "Mandolin", 6, 17, 5, 1.42f, true, false, "mandolin" },
+};
+
 } // namespace
+
+FinderLayout::Staff FinderLayout::staffFor(const QString& key)
+{
+    Staff staff;
+    for (const auto& row : kStaffs) {
+        if (key != QLatin1String(row.key))
+            continue;
+        staff.key = key;
+        staff.instrumentName = QLatin1String(row.instrumentName);
+        staff.startLine = row.startLine;
+        staff.lines = row.lines;
+        staff.translateLines = row.translateLines;
+        staff.paperHeightFactor = row.paperHeightFactor;
+        staff.noBass = row.noBass;
+        staff.noViolin = row.noViolin;
+        staff.leftPicture = QStringLiteral(":/%1left.jpg").arg(QLatin1String(row.pictureStem));
+        staff.rightPicture = QStringLiteral(":/%1right.jpg").arg(QLatin1String(row.pictureStem));
+    }
+    return staff;
+}
 
 void FinderLayout::applyStaff(DecoratedNotesWidget* notes, const Staff& staff)
 {

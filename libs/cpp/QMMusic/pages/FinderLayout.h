@@ -36,6 +36,9 @@ public:
         QString rightPicture;
     };
 
+    // The staff of each finder: "Guitar", "Ukulele", "Violin", "Bass",
+    // "Balalaika", "Banjo", "Mandolin"; an empty key for any other.
+    static Staff staffFor(const QString& key);
     // The staff's settings, its object name and instrument name.
     static void applyStaff(DecoratedNotesWidget* notes, const Staff& staff);
     // Lays out the finder: left picture, staff, right picture in a row, the board below.

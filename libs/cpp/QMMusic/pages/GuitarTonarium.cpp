@@ -18,15 +18,7 @@ GuitarTonarium::GuitarTonarium(QWidget* parent)
     connect(
         m_decoratedNotesWidget, &DecoratedNotesWidget::trainingStarted, m_guitarBoard, &GuitarBoard::slotSetInTraining);
 
-    FinderLayout::Staff staff;
-    staff.key = QStringLiteral("Guitar");
-    staff.instrumentName = QStringLiteral("guitar");
-    staff.startLine = 8;
-    staff.lines = 22;
-    staff.translateLines = 5;
-    staff.paperHeightFactor = 1.3f;
-    staff.leftPicture = QStringLiteral(":/guitarleft.jpg");
-    staff.rightPicture = QStringLiteral(":/guitarright.jpg");
+    const FinderLayout::Staff staff = FinderLayout::staffFor(QStringLiteral("Guitar"));
     FinderLayout::applyStaff(m_decoratedNotesWidget, staff);
 
     // Both directions: slotSetNote emits nothing, so a note never comes back.

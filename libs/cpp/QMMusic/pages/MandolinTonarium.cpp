@@ -4,27 +4,8 @@
 
 namespace QMMusic {
 
-namespace {
-
-FinderLayout::Staff staff()
-{
-    FinderLayout::Staff staff;
-    staff.key = QStringLiteral("Mandolin");
-    staff.instrumentName = staff.key;
-    staff.startLine = 6;
-    staff.lines = 17;
-    staff.translateLines = 5;
-    staff.paperHeightFactor = 1.42f;
-    staff.noBass = true;
-    staff.leftPicture = QStringLiteral(":/mandolinleft.jpg");
-    staff.rightPicture = QStringLiteral(":/mandolinright.jpg");
-    return staff;
-}
-
-} // namespace
-
 MandolinTonarium::MandolinTonarium(QWidget* parent)
-    : InstrumentFinder(new MandolinBoard, staff(), parent)
+    : InstrumentFinder(new MandolinBoard, FinderLayout::staffFor(QStringLiteral("Mandolin")), parent)
 {
 }
 

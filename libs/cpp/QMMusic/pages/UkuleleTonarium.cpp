@@ -4,27 +4,8 @@
 
 namespace QMMusic {
 
-namespace {
-
-FinderLayout::Staff staff()
-{
-    FinderLayout::Staff staff;
-    staff.key = QStringLiteral("Ukulele");
-    staff.instrumentName = staff.key;
-    staff.startLine = 8;
-    staff.lines = 16;
-    staff.translateLines = 6;
-    staff.paperHeightFactor = 1.6f;
-    staff.noBass = true;
-    staff.leftPicture = QStringLiteral(":/ukuleft.jpg");
-    staff.rightPicture = QStringLiteral(":/ukuright.jpg");
-    return staff;
-}
-
-} // namespace
-
 UkuleleTonarium::UkuleleTonarium(QWidget* parent)
-    : InstrumentFinder(new UkuleleBoard, staff(), parent)
+    : InstrumentFinder(new UkuleleBoard, FinderLayout::staffFor(QStringLiteral("Ukulele")), parent)
 {
 }
 
