@@ -7,11 +7,14 @@
 #include QM_PAGE_HEADER
 #include "WindowGeometry.h"
 
+#include <QFile>
 #include <QScreen>
 
+#include <algorithm>
+
 // One note finder program: the build compiles this file once per
-// instrument, naming the program, its page class and header, the
-// instrument's word for the command line, its store id and the folder of
+// instrument, naming the program, its page class and header, what the
+// command line says the notes lie on, its store id and the folder of
 // its introduction slides below the Resources folder.
 int main(int argc, char* argv[])
 {
@@ -22,7 +25,7 @@ int main(int argc, char* argv[])
     QMWidgets::App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral(QM_PROGRAM));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.2"));
     const int exitCode = QMWidgets::CommandLine::handle(
-        QStringLiteral("Learn where the notes lie on a " QM_INSTRUMENT " neck and on the staff."));
+        QStringLiteral("Learn where the notes lie on a " QM_INSTRUMENT " and on the staff."));
     if (exitCode >= 0)
         return exitCode;
     // A second launch only brings the running window forward.
@@ -59,8 +62,12 @@ int main(int argc, char* argv[])
     });
 
     // The translations manager comes into being here, after the page.
-    app.setIntroductionSlides(QMWidgets::App::introductionSlidesFor(
-        app.bundleResourcePath() + QStringLiteral(QM_SLIDE_FOLDER), app.currentLanguage()));
+    // A program shows the slides it has: the piano's leave out training.
+    QStringList slides = QMWidgets::App::introductionSlidesFor(
+        app.bundleResourcePath() + QStringLiteral(QM_SLIDE_FOLDER), app.currentLanguage());
+    slides.erase(std::remove_if(slides.begin(), slides.end(), [](const QString& path) { return !QFile::exists(path); }),
+        slides.end());
+    app.setIntroductionSlides(slides);
 
     page.setWindowTitle(QCoreApplication::applicationName());
     app.setMainWidget(&page);

@@ -16,8 +16,9 @@ set(QM_APP_ID "${QM_APP_ID_PREFIX}GuitarTonarium")
 # beside them, as in the build; bin/ holds a link to each.
 set(QM_PACKAGE "tonarium")
 # The instruments whose note finders stand beside the guitar's, each a
-# program <Instrument>Tonarium with its slides in Resources/<program>/.
-set(QM_FINDER_INSTRUMENTS Ukulele Violin Bass Balalaika Banjo Mandolin)
+# program <Instrument>Tonarium with its pictures in art_<Instrument>.qrc and
+# its slides in Resources/<program>/.
+set(QM_FINDER_INSTRUMENTS Ukulele Violin Bass Balalaika Banjo Mandolin Piano)
 set(QM_INSTALL_PROGRAM_DIR "lib/${QM_PACKAGE}")
 
 # The folder beside the executables that holds samples and slides.

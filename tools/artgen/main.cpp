@@ -11,6 +11,7 @@
 #include "MetronomeSoundSynth.h"
 #include "NeckArt.h"
 #include "PageArt.h"
+#include "PianoArt.h"
 #include "StaffArt.h"
 #include "TrainerArt.h"
 
@@ -40,6 +41,7 @@ int main(int argc, char* argv[])
     StaffArt::generate(writer);
     NeckArt::generate(writer);
     FingerboardArt::generate(writer);
+    PianoArt::generate(writer);
     PageArt::generate(writer);
     InstrumentSideArt::generate(writer);
     TrainerArt::generate(writer);

@@ -68,32 +68,66 @@ int languageIndex(const QString& language)
     return index < 0 ? 0 : index;
 }
 
-// The first slide's title on the other instruments; columns English, German, Russian.
-struct InstrumentTitle
+// Where another instrument's slide says something else than the guitar's;
+// columns English, German, Russian. A null text keeps the guitar's.
+struct InstrumentCaption
 {
     const char* key;
-    const char* titles[3];
+    int slide;
+    Caption captions[3];
 };
 
-const InstrumentTitle kInstrumentTitles[] = {
-    { "Ukulele",
-        { "Learn the notes of the ukulele neck", "Lerne die Noten auf dem Ukulelenhals",
-            "Выучите ноты на грифе укулеле" } },
-    { "Violin",
-        { "Learn the notes of the violin fingerboard", "Lerne die Noten auf dem Griffbrett der Geige",
-            "Выучите ноты на грифе скрипки" } },
-    { "Bass",
-        { "Learn the notes of the bass neck", "Lerne die Noten auf dem Basshals",
-            "Выучите ноты на грифе бас-гитары" } },
-    { "Balalaika",
-        { "Learn the notes of the balalaika neck", "Lerne die Noten auf dem Balalaikahals",
-            "Выучите ноты на грифе балалайки" } },
-    { "Banjo",
-        { "Learn the notes of the banjo neck", "Lerne die Noten auf dem Banjohals", "Выучите ноты на грифе банджо" } },
-    { "Mandolin",
-        { "Learn the notes of the mandolin neck", "Lerne die Noten auf dem Mandolinenhals",
-            "Выучите ноты на грифе мандолины" } },
+const InstrumentCaption kInstrumentCaptions[] = {
+    { "Ukulele", 0,
+        { { "Learn the notes of the ukulele neck", nullptr }, { "Lerne die Noten auf dem Ukulelenhals", nullptr },
+            { "Выучите ноты на грифе укулеле", nullptr } } },
+    { "Violin", 0,
+        { { "Learn the notes of the violin fingerboard", nullptr },
+            { "Lerne die Noten auf dem Griffbrett der Geige", nullptr },
+            { "Выучите ноты на грифе скрипки", nullptr } } },
+    { "Bass", 0,
+        { { "Learn the notes of the bass neck", nullptr }, { "Lerne die Noten auf dem Basshals", nullptr },
+            { "Выучите ноты на грифе бас-гитары", nullptr } } },
+    { "Balalaika", 0,
+        { { "Learn the notes of the balalaika neck", nullptr }, { "Lerne die Noten auf dem Balalaikahals", nullptr },
+            { "Выучите ноты на грифе балалайки", nullptr } } },
+    { "Banjo", 0,
+        { { "Learn the notes of the banjo neck", nullptr }, { "Lerne die Noten auf dem Banjohals", nullptr },
+            { "Выучите ноты на грифе банджо", nullptr } } },
+    { "Mandolin", 0,
+        { { "Learn the notes of the mandolin neck", nullptr }, { "Lerne die Noten auf dem Mandolinenhals", nullptr },
+            { "Выучите ноты на грифе мандолины", nullptr } } },
+    { "Piano", 0,
+        { { "Learn the notes of the piano keyboard",
+              "The keyboard below, the staff above and the sound of every note: all in one window." },
+            { "Lerne die Noten auf der Klaviertastatur",
+                "Unten die Tastatur, oben die Notenzeilen und der Klang jeder Note: alles in einem Fenster." },
+            { "Выучите ноты на клавиатуре фортепиано",
+                "Внизу клавиатура, вверху нотный стан и звук каждой ноты: всё в одном окне." } } },
+    { "Piano", 1,
+        { { "Find a note on the keyboard", "Press a key: it lights up, the staff shows its note and you hear it." },
+            { "Finde eine Note auf der Tastatur",
+                "Drücke eine Taste: sie leuchtet auf, die Notenzeile zeigt ihre Note, und du hörst sie." },
+            { "Найдите ноту на клавиатуре",
+                "Нажмите на клавишу: она загорится, нотный стан покажет её ноту, и вы её услышите." } } },
+    { "Piano", 3,
+        { { nullptr, "Move the mouse over the staff to find the note on the keyboard; press the staff to hear it." },
+            { nullptr,
+                "Fahre mit der Maus über die Notenzeilen, um die Note auf der Tastatur zu finden; ein Klick lässt sie "
+                "erklingen." },
+            { nullptr,
+                "Ведите мышью по нотному стану, чтобы найти ноту на клавиатуре; нажмите, чтобы услышать её." } } },
 };
+
+// The instrument's own caption of a slide, if it has one.
+const Caption* instrumentCaption(int slide, int language, const QString& instrument)
+{
+    for (const InstrumentCaption& row : kInstrumentCaptions) {
+        if (row.slide == slide && instrument == QLatin1String(row.key))
+            return &row.captions[language];
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -106,18 +140,14 @@ QString SlideCaptions::title(int slide, const QString& language, const QString& 
 {
     if (slide < 0 || slide >= SlideCount)
         return QString();
-    if (slide == 0) {
-        for (const InstrumentTitle& row : kInstrumentTitles) {
-            if (instrument == QLatin1String(row.key))
-                return QString::fromUtf8(row.titles[languageIndex(language)]);
-        }
-    }
-    return QString::fromUtf8(kCaptions[slide][languageIndex(language)].title);
+    const Caption* own = instrumentCaption(slide, languageIndex(language), instrument);
+    return QString::fromUtf8(own && own->title ? own->title : kCaptions[slide][languageIndex(language)].title);
 }
 
-QString SlideCaptions::text(int slide, const QString& language)
+QString SlideCaptions::text(int slide, const QString& language, const QString& instrument)
 {
     if (slide < 0 || slide >= SlideCount)
         return QString();
-    return QString::fromUtf8(kCaptions[slide][languageIndex(language)].text);
+    const Caption* own = instrumentCaption(slide, languageIndex(language), instrument);
+    return QString::fromUtf8(own && own->text ? own->text : kCaptions[slide][languageIndex(language)].text);
 }

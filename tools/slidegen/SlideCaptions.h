@@ -10,7 +10,8 @@ public:
 
     // The languages slides are made for: "en", "de", "ru".
     static QStringList languages();
-    // The first slide names the instrument ("Guitar", "Ukulele", ...).
+    // On the page of an instrument ("Guitar", "Ukulele", ...): the first
+    // slide names it, and the piano's speak of keys.
     static QString title(int slide, const QString& language, const QString& instrument);
-    static QString text(int slide, const QString& language);
+    static QString text(int slide, const QString& language, const QString& instrument);
 };

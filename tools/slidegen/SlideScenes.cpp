@@ -19,6 +19,9 @@
 #include "NotesLernReportDialog.h"
 #include "NotesTrainerWidget.h"
 #include "NotesWidget.h"
+#include "PianoBoard.h"
+#include "PianoTonarium.h"
+#include "PianoTonariumMainPage.h"
 #include "PromoMenuBar.h"
 #include "UkuleleTonarium.h"
 #include "UkuleleTonariumMainPage.h"
@@ -105,6 +108,11 @@ Page newPage(const QString& key)
         return pageOf(&QMMusic::BanjoTonariumMainPage::banjoTonarium);
     if (key == QLatin1String("Mandolin"))
         return pageOf(&QMMusic::MandolinTonariumMainPage::mandolinTonarium);
+    if (key == QLatin1String("Piano")) {
+        auto window = std::make_unique<QMMusic::PianoTonariumMainPage>();
+        QMMusic::PianoTonarium* finder = window->pianoTonarium();
+        return pageWith(std::move(window), finder->decoratedNotesWidget(), finder->pianoBoard());
+    }
     return guitarPage();
 }
 
@@ -315,6 +323,8 @@ SlideScenes::Scene menus(const QString& key)
 
 QVector<SlideScenes::Scene> SlideScenes::render(const QString& instrumentKey)
 {
+    // The piano has no training: its two scenes stay empty.
+    const bool trains = instrumentKey != QLatin1String("Piano");
     return { welcome(instrumentKey), findOnNeck(instrumentKey), staffAndSigns(instrumentKey), hearNotes(instrumentKey),
-        training(instrumentKey), report(), menus(instrumentKey) };
+        trains ? training(instrumentKey) : Scene(), trains ? report() : Scene(), menus(instrumentKey) };
 }

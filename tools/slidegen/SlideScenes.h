@@ -17,6 +17,7 @@ public:
         QList<QRectF> rings;
     };
 
-    // The scenes on the page of an instrument key ("Guitar", "Ukulele", ...).
+    // The scenes on the page of an instrument key ("Guitar", "Ukulele", ...);
+    // a scene the instrument has nothing for has no content.
     static QVector<Scene> render(const QString& instrumentKey);
 };

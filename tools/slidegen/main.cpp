@@ -39,8 +39,10 @@ int main(int argc, char* argv[])
     bool ok = true;
     for (const QString& language : SlideCaptions::languages()) {
         for (int n = 0; n < scenes.size(); ++n) {
+            if (scenes.at(n).content.isNull())
+                continue;
             const QImage slide = SlideComposer::compose(scenes.at(n).content, scenes.at(n).rings,
-                SlideCaptions::title(n, language, instrument), SlideCaptions::text(n, language));
+                SlideCaptions::title(n, language, instrument), SlideCaptions::text(n, language, instrument));
             ok = slide.save(outputDir + QStringLiteral("/TRXSlide%1_%2.jpg").arg(n).arg(language), "JPG", 88) && ok;
         }
     }
@@ -49,7 +51,8 @@ int main(int argc, char* argv[])
         const QString screenshotDir = QString::fromLocal8Bit(argv[2]);
         QDir().mkpath(screenshotDir);
         ok = scenes.at(1).content.save(screenshotDir + QStringLiteral("/finder.png")) && ok;
-        ok = scenes.at(4).content.save(screenshotDir + QStringLiteral("/training.png")) && ok;
+        if (!scenes.at(4).content.isNull())
+            ok = scenes.at(4).content.save(screenshotDir + QStringLiteral("/training.png")) && ok;
     }
     return ok ? 0 : 1;
 }

@@ -23,6 +23,7 @@ struct Side
     QString fileStem; // "uku" gives "ukuleft.jpg" and "ukuright.jpg"
     QColor dark;
     QColor light;
+    QString suffix = QStringLiteral(".jpg");
 };
 
 const Side kSides[] = {
@@ -32,6 +33,7 @@ const Side kSides[] = {
     { QStringLiteral("Balalaika"), QStringLiteral("balalaika"), QColor(196, 150, 90), QColor(242, 216, 166) },
     { QStringLiteral("Banjo"), QStringLiteral("banjo"), QColor(214, 204, 180), QColor(248, 242, 228) },
     { QStringLiteral("Mandolin"), QStringLiteral("mandolin"), QColor(120, 56, 18), QColor(230, 164, 84) },
+    { QStringLiteral("Piano"), QStringLiteral("piano"), QColor(4, 4, 6), QColor(40, 40, 46), QStringLiteral(".png") },
 };
 
 // A symmetric outline from its right half, given as cubic segments from the
@@ -59,6 +61,13 @@ QPainterPath outlineOf(const QString& key, double centreX)
         QPainterPath path;
         path.addEllipse(QPointF(centreX, 520), 470, 470);
         return path;
+    }
+    if (key == QLatin1String("Piano")) {
+        // A grand piano seen from above: the straight spine, the bent side
+        // narrowing towards the tail.
+        return mirrored(centreX,
+            { { 0, 30 }, { 200, 30 }, { 330, 40 }, { 330, 200 }, { 330, 420 }, { 300, 560 }, { 250, 700 }, { 200, 860 },
+                { 160, 1010 }, { 60, 1010 }, { 20, 1010 }, { 0, 1010 } });
     }
     if (key == QLatin1String("Balalaika")) {
         // Three corners, the lower edge slightly rounded.
@@ -137,6 +146,16 @@ void drawTop(QPainter& painter, const QString& key, double centreX, int strings)
             painter.drawRoundedRect(QRectF(centreX - 110, y - 30, 220, 60), 14, 14);
         }
         bridgeY = 820;
+    } else if (key == QLatin1String("Piano")) {
+        // The golden iron frame and the strings under the open lid.
+        painter.setPen(QPen(QColor(176, 140, 70), 26));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(outlineOf(key, centreX));
+        for (int s = -14; s <= 14; ++s) {
+            painter.setPen(QPen(QColor(210, 200, 180, 160), 2.0));
+            painter.drawLine(QPointF(centreX + s * 18, 60), QPointF(centreX + s * 9, 980));
+        }
+        return;
     } else if (key == QLatin1String("Banjo")) {
         // The bracket nuts round the rim of the head.
         for (int i = 0; i < 24; ++i) {
@@ -242,8 +261,8 @@ QImage sidePicture(const Side& side, double centreX)
 void InstrumentSideArt::generate(ArtWriter& writer)
 {
     for (const Side& side : kSides) {
-        writer.addPicture(side.fileStem + QStringLiteral("left.jpg"), sidePicture(side, -30.0), 90, side.key);
+        writer.addPicture(side.fileStem + QStringLiteral("left") + side.suffix, sidePicture(side, -30.0), 90, side.key);
         writer.addPicture(
-            side.fileStem + QStringLiteral("right.jpg"), sidePicture(side, SideWidth + 30.0), 90, side.key);
+            side.fileStem + QStringLiteral("right") + side.suffix, sidePicture(side, SideWidth + 30.0), 90, side.key);
     }
 }

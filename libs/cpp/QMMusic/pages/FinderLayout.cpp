@@ -35,15 +35,18 @@ const struct
     float paperHeightFactor;
     bool noBass;
     bool noViolin;
-    const char* pictureStem;
+    const char* leftPicture;
+    const char* rightPicture;
 } kStaffs[] = {
-    { "Guitar", "guitar", 8, 22, 5, 1.3f, false, false, "guitar" },
-    { "Ukulele", "Ukulele", 8, 16, 6, 1.6f, true, false, "uku" },
-    { "Violin", "Violin", 8, 17, 6, 1.55f, true, false, "violin" },
-    { "Bass", "Bass", 15, 25, 12, 1.94f, false, true, "bass" },
-    { "Balalaika", "Balalaika", 7, 15, 6, 1.53f, true, false, "balalaika" },
-    { "Banjo", "Banjo", 8, 19, 5, 1.42f, true, false, "banjo" },
-    { "Mandolin", "Mandolin", 6, 17, 5, 1.42f, true, false, "mandolin" },
+    { "Guitar", "guitar", 8, 22, 5, 1.3f, false, false, ":/guitarleft.jpg", ":/guitarright.jpg" },
+    { "Ukulele", "Ukulele", 8, 16, 6, 1.6f, true, false, ":/ukuleft.jpg", ":/ukuright.jpg" },
+    { "Violin", "Violin", 8, 17, 6, 1.55f, true, false, ":/violinleft.jpg", ":/violinright.jpg" },
+    { "Bass", "Bass", 15, 25, 12, 1.94f, false, true, ":/bassleft.jpg", ":/bassright.jpg" },
+    { "Balalaika", "Balalaika", 7, 15, 6, 1.53f, true, false, ":/balalaikaleft.jpg", ":/balalaikaright.jpg" },
+    { "Banjo", "Banjo", 8, 19, 5, 1.42f, true, false, ":/banjoleft.jpg", ":/banjoright.jpg" },
+    { "Mandolin", "Mandolin", 6, 17, 5, 1.42f, true, false, ":/mandolinleft.jpg", ":/mandolinright.jpg" },
+    // The piano keeps the staff's defaults: both clefs, all 27 lines.
+    { "Piano", "piano", 0, 27, 0, 1.0f, false, false, ":/pianoleft.png", ":/pianoright.png" },
 };
 
 } // namespace
@@ -62,8 +65,8 @@ FinderLayout::Staff FinderLayout::staffFor(const QString& key)
         staff.paperHeightFactor = row.paperHeightFactor;
         staff.noBass = row.noBass;
         staff.noViolin = row.noViolin;
-        staff.leftPicture = QStringLiteral(":/%1left.jpg").arg(QLatin1String(row.pictureStem));
-        staff.rightPicture = QStringLiteral(":/%1right.jpg").arg(QLatin1String(row.pictureStem));
+        staff.leftPicture = QLatin1String(row.leftPicture);
+        staff.rightPicture = QLatin1String(row.rightPicture);
     }
     return staff;
 }

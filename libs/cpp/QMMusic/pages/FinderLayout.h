@@ -37,7 +37,7 @@ public:
     };
 
     // The staff of each finder: "Guitar", "Ukulele", "Violin", "Bass",
-    // "Balalaika", "Banjo", "Mandolin"; an empty key for any other.
+    // "Balalaika", "Banjo", "Mandolin", "Piano"; an empty key for any other.
     static Staff staffFor(const QString& key);
     // The staff's settings, its object name and instrument name.
     static void applyStaff(DecoratedNotesWidget* notes, const Staff& staff);
