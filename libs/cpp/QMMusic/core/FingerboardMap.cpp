@@ -7,6 +7,8 @@
 #include <QSet>
 
 #include <algorithm>
+#include <map>
+#include <memory>
 
 namespace QMMusic {
 
@@ -78,10 +80,11 @@ FingerboardMap::FingerboardMap(const FingerboardDesign& design)
 
 const FingerboardMap& FingerboardMap::forKey(const QString& key)
 {
-    static QHash<QString, const FingerboardMap*> maps;
-    const FingerboardMap*& map = maps[key];
+    // Built on first use and kept to the end of the program.
+    static std::map<QString, std::unique_ptr<const FingerboardMap>> maps;
+    std::unique_ptr<const FingerboardMap>& map = maps[key];
     if (!map)
-        map = new FingerboardMap(FingerboardDesign::forKey(key));
+        map = std::make_unique<const FingerboardMap>(FingerboardDesign::forKey(key));
     return *map;
 }
 
