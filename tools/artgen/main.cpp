@@ -59,6 +59,9 @@ int main(int argc, char* argv[])
                                prefix + key + QStringLiteral("Tonarium"), { design.stringCount(), design.fretted })
                 && iconsWritten;
         }
+        iconsWritten = DesktopIconArt::generate(
+                           parser.value(iconsOption), prefix + QStringLiteral("PianoTonarium"), { 0, false })
+            && iconsWritten;
         if (!iconsWritten)
             return 1;
     }

@@ -31,8 +31,40 @@ struct Shape
     double width = 0.0; // stroke width; for the tile its edge
 };
 
+// Seven white keys of an octave with its five black keys, one key marked.
+QVector<Shape> keyboard(bool small)
+{
+    QVector<Shape> shapes;
+    shapes.append({ Shape::Tile, QRectF(8, 8, 240, 240), {}, kTileColor, small ? 16.0 : 10.0 });
+    const int whites = small ? 4 : 7;
+    const double left = 28;
+    const double width = 200.0 / whites;
+    const double top = small ? 56 : 60;
+    const double bottom = small ? 200 : 196;
+    shapes.append({ Shape::Box, QRectF(left, top, 200, bottom - top), {}, kNutColor, 0 });
+    for (int i = 1; i < whites; ++i) {
+        const double x = left + i * width;
+        shapes.append({ Shape::Line, {}, QLineF(x, top, x, bottom), kTileColor, small ? 10.0 : 4.0 });
+    }
+    // Black keys after the first, second, fourth, fifth and sixth white key.
+    for (int i : { 1, 2, 4, 5, 6 }) {
+        if (i >= whites)
+            continue;
+        const double x = left + i * width;
+        shapes.append(
+            { Shape::Box, QRectF(x - width * 0.3, top, width * 0.6, (bottom - top) * 0.6), {}, kTileColor, 0 });
+    }
+    const double radius = small ? 30 : 20;
+    const QPointF mark(left + (small ? 2.5 : 3.5) * width, top + (bottom - top) * 0.8);
+    shapes.append({ Shape::Ring, QRectF(mark.x() - radius, mark.y() - radius, 2 * radius, 2 * radius), {}, kMarkColor,
+        small ? 16.0 : 9.0 });
+    return shapes;
+}
+
 QVector<Shape> drawing(bool small, const DesktopIconArt::Motif& motif)
 {
+    if (motif.strings == 0)
+        return keyboard(small);
     QVector<Shape> shapes;
     shapes.append({ Shape::Tile, QRectF(8, 8, 240, 240), {}, kTileColor, small ? 16.0 : 10.0 });
     const double top = small ? 64 : 72;

@@ -16,6 +16,7 @@ public:
     // What tells the instruments apart at a glance.
     struct Motif
     {
+        // 0: the keys of a keyboard instead of a neck.
         int strings;
         bool fretted;
     };
