@@ -11,13 +11,24 @@ InstrumentSampleSynth::Instrument plucked(
     sound.highestMidiNote = highestMidiNote;
     // A share of the same kick in every pluck, so that no note comes out weak.
     sound.noiseShare = 0.4;
-    return { QLatin1String(key), lowestMidiNote, highestMidiNote, false, sound, {} };
+    return { QLatin1String(key), lowestMidiNote, highestMidiNote, InstrumentSampleSynth::Playing::Plucked, sound, {},
+        {} };
 }
 
 InstrumentSampleSynth::Instrument bowed(
     const char* key, int lowestMidiNote, int highestMidiNote, const BowedStringSynth::Parameters& sound)
 {
-    return { QLatin1String(key), lowestMidiNote, highestMidiNote, true, {}, sound };
+    return { QLatin1String(key), lowestMidiNote, highestMidiNote, InstrumentSampleSynth::Playing::Bowed, {}, sound,
+        {} };
+}
+
+InstrumentSampleSynth::Instrument struck(
+    const char* key, int lowestMidiNote, int highestMidiNote, PianoSynth::Parameters sound)
+{
+    sound.lowestMidiNote = lowestMidiNote;
+    sound.highestMidiNote = highestMidiNote;
+    return { QLatin1String(key), lowestMidiNote, highestMidiNote, InstrumentSampleSynth::Playing::Struck, {}, {},
+        sound };
 }
 
 // Nylon plucked with the thumb over the soundhole: a soft, round pluck whose
@@ -126,13 +137,22 @@ QVector<InstrumentSampleSynth::Instrument> InstrumentSampleSynth::instruments()
         plucked("Balalaika", 64, 88, balalaika()), // E4 to E6
         plucked("Banjo", 50, 85, banjo()), // D3 to C#6
         plucked("Mandolin", 55, 93, mandolin()), // G3 to A6
+        // The whole keyboard; PianoSynth's defaults are a grand's strings.
+        struck("Piano", 21, 108, PianoSynth::Parameters()), // A0 to C8
     };
 }
 
 QVector<float> InstrumentSampleSynth::synthesise(const Instrument& instrument, int midiNote)
 {
-    return instrument.bowed ? BowedStringSynth::bow(midiNote, instrument.bowing)
-                            : PluckedStringSynth::pluck(midiNote, instrument.plucked);
+    switch (instrument.playing) {
+    case Playing::Bowed:
+        return BowedStringSynth::bow(midiNote, instrument.bowing);
+    case Playing::Struck:
+        return PianoSynth::strike(midiNote, instrument.striking);
+    case Playing::Plucked:
+        break;
+    }
+    return PluckedStringSynth::pluck(midiNote, instrument.plucked);
 }
 
 void InstrumentSampleSynth::generate(ArtWriter& writer)

@@ -64,6 +64,7 @@ enum Family
 {
     Plucked,
     Bowed,
+    Struck,
     Unpitched
 };
 
@@ -88,7 +89,8 @@ Q_DECLARE_METATYPE(Family)
 // The generated samples as the player decodes them: length, level, a
 // fundamental on the note (A4 = 440 Hz), nothing left sounding at the end,
 // and the shape in time of each kind of string: a plucked one decays at its
-// instrument's pace, a bowed one swells in softly and holds.
+// instrument's pace, a bowed one swells in softly and holds, a struck piano
+// string dies in two stages and its stiffness stretches its partials.
 class tst_InstrumentSamples : public QObject
 {
     Q_OBJECT
@@ -119,6 +121,7 @@ void tst_InstrumentSamples::sample_data()
         { "balalaika", 64, 88, Plucked, 2.0, 0.0, 25.0, 55.0 }, // E4 to E6
         { "banjo", 50, 85, Plucked, 2.0, 0.0, 36.0, 75.0 }, // D3 to C#6
         { "mandolin", 55, 93, Plucked, 2.0, 3.0, 25.0, 52.0 }, // G3 to A6
+        { "piano", 21, 108, Struck, 2.0, 0.0, 0.0, 0.0 }, // A0 to C8
     };
     static const char* const names[12] = { "C", "Cd", "D", "Dd", "E", "F", "Fd", "G", "Gd", "A", "Ad", "B" };
     for (const InstrumentRange& range : ranges) {
@@ -186,6 +189,30 @@ void tst_InstrumentSamples::sample()
         const double drop = levelAround(sound.samples, 0.2) - levelAround(sound.samples, 1.5);
         QVERIFY2(drop >= minDrop && drop <= maxDrop,
             qPrintable(QStringLiteral("%1 dB down after 1.5 s").arg(drop, 0, 'f', 1)));
+    } else if (family == Struck) {
+        // A piano note dies in two stages: the prompt sound falls fast over
+        // its first tenths of a second, then the aftersound lingers, falling
+        // from 0.8 s to 1.8 s at under 60 % of that pace (the unison's slow
+        // beats included)...
+        const double start = levelAround(sound.samples, 0.1);
+        const double prompt = (start - levelAround(sound.samples, 0.4)) / 0.3;
+        const double after = levelAround(sound.samples, 0.8) - levelAround(sound.samples, 1.8);
+        QVERIFY2(prompt > 1.7 * after,
+            qPrintable(QStringLiteral("%1 dB/s over the first 0.3 s, then %2 dB/s")
+                           .arg(prompt, 0, 'f', 1)
+                           .arg(after, 0, 'f', 1)));
+        // ...and is still sounding after 1.8 s, within 60 dB of its start.
+        const double left = levelAround(sound.samples, 1.8) - start;
+        QVERIFY2(left > -60.0, qPrintable(QStringLiteral("%1 dB left after 1.8 s").arg(left, 0, 'f', 1)));
+        // The stiff wound strings of the lowest octave stretch their partials:
+        // with B between 1e-4 and 1e-3 the 6th lies 3 to 30 cents sharp of six
+        // times the fundamental.
+        if (frequency < 54.0) {
+            const double sixth = centsOff(sound.samples, 2205, count, 6.0 * frequency, sound.sampleRate) - cents;
+            QVERIFY2(sixth > 3.0 && sixth < 30.0,
+                qPrintable(
+                    QStringLiteral("the 6th partial %1 cents off six times the fundamental").arg(sixth, 0, 'f', 1)));
+        }
     } else {
         // A bowed string holds its level while the bow moves...
         const double change = levelAround(sound.samples, 1.5) - levelAround(sound.samples, 0.5);
