@@ -1,6 +1,7 @@
 #include "App.h"
 #include "AppStyleSheet.h"
 #include "App_mac.h"
+#include "BaseMainPage.h"
 #include "CommandLine.h"
 #include "CorvaneProducts.h"
 #include "CorvaneSite.h"
@@ -11,10 +12,29 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <type_traits>
 
-// One note finder program: the build compiles this file once per
-// instrument, naming the program, its page class and header, what the
-// command line says the notes lie on, its store id and the folder of
+namespace {
+
+// A note finder has a shop and a minimum size, and opens at that size; the
+// metronome keeps its own minimum and opens at the size it asks for.
+template <typename Page> QSize addShopAndMinimumSize(Page& page)
+{
+    if constexpr (std::is_base_of_v<QMMusic::BaseMainPage, Page>) {
+        page.addShopMenu();
+        page.setMinimumHeight(600);
+        page.setMinimumWidth(800);
+        return page.minimumSize();
+    } else {
+        return page.sizeHint().expandedTo(page.minimumSize());
+    }
+}
+
+} // namespace
+
+// One program of the family: the build compiles this file once per page,
+// naming the program, its page class and header, its description for the
+// command line, its store id and the folder of
 // its introduction slides below the Resources folder.
 int main(int argc, char* argv[])
 {
@@ -24,8 +44,7 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QMWidgets::App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral(QM_PROGRAM));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.2"));
-    const int exitCode = QMWidgets::CommandLine::handle(
-        QStringLiteral("Learn where the notes lie on a " QM_INSTRUMENT " and on the staff."));
+    const int exitCode = QMWidgets::CommandLine::handle(QStringLiteral(QM_DESCRIPTION));
     if (exitCode >= 0)
         return exitCode;
     // A second launch only brings the running window forward.
@@ -43,14 +62,11 @@ int main(int argc, char* argv[])
     QM_PAGE_CLASS page;
 
     QMWidgets::CorvaneProducts::addTo(page.promoMenuBar());
-    page.addShopMenu();
-
-    page.setMinimumHeight(600);
-    page.setMinimumWidth(800);
-    // Only the tuner pages store these; this window opens at its minimum.
+    const QSize opening = addShopAndMinimumSize(page);
+    // Only the tuner pages store these; this window opens at the size above.
     // A hand-edited size is kept within the screen.
-    const QSize stored(app.settingsValue(QStringLiteral("Width"), page.minimumSize().width()).toInt(),
-        app.settingsValue(QStringLiteral("Height"), page.minimumSize().height()).toInt());
+    const QSize stored(app.settingsValue(QStringLiteral("Width"), opening.width()).toInt(),
+        app.settingsValue(QStringLiteral("Height"), opening.height()).toInt());
     const QScreen* screen = QGuiApplication::primaryScreen();
     page.resize(QMWidgets::WindowGeometry::fittedSize(
         stored, page.minimumSize(), screen ? screen->availableGeometry().size() : page.minimumSize()));

@@ -8,6 +8,7 @@
 #include "InstrumentSampleSynth.h"
 #include "InstrumentSideArt.h"
 #include "LookArt.h"
+#include "MetronomeArt.h"
 #include "MetronomeSoundSynth.h"
 #include "NeckArt.h"
 #include "PageArt.h"
@@ -45,6 +46,7 @@ int main(int argc, char* argv[])
     PageArt::generate(writer);
     InstrumentSideArt::generate(writer);
     TrainerArt::generate(writer);
+    MetronomeArt::generate(writer);
     FrameArt::generate(writer);
     GuitarSampleSynth::generate(writer);
     InstrumentSampleSynth::generate(writer);

@@ -119,9 +119,31 @@ const InstrumentCaption kInstrumentCaptions[] = {
                 "Ведите мышью по нотному стану, чтобы найти ноту на клавиатуре; нажмите, чтобы услышать её." } } },
 };
 
+// The metronome's three slides; columns English, German, Russian.
+const Caption kMetronomeCaptions[3][3] = {
+    { { "Keep the beat", "The face swings its eyes on every beat; the bell rings at the start of each bar." },
+        { "Halte den Takt",
+            "Das Gesicht schwenkt bei jedem Schlag die Augen; die Glocke läutet zu Beginn jedes Takts." },
+        { "Держите ритм", "Лицо поводит глазами на каждую долю; в начале каждого такта звенит колокольчик." } },
+    { { "Choose the tempo",
+          "Plus and minus change the beats per minute by one; a tempo name from Largo to Presto jumps there." },
+        { "Wähle das Tempo",
+            "Plus und Minus ändern die Schläge pro Minute um eins; ein Tempo von Largo bis Presto springt dorthin." },
+        { "Выберите темп",
+            "Плюс и минус меняют число ударов в минуту на один; название темпа от Largo до Presto переходит к "
+            "нему." } },
+    { { "Beats and silence",
+          "Choose the beats per bar; the eye and the speaker switch the face and the sound off and on." },
+        { "Schläge und Stille",
+            "Wähle die Schläge pro Takt; Auge und Lautsprecher schalten Gesicht und Klang aus und ein." },
+        { "Доли и тишина", "Выберите число долей в такте; глаз и динамик выключают и включают лицо и звук." } },
+};
+
 // The instrument's own caption of a slide, if it has one.
 const Caption* instrumentCaption(int slide, int language, const QString& instrument)
 {
+    if (instrument == QLatin1String("Metronome"))
+        return slide < 3 ? &kMetronomeCaptions[slide][language] : nullptr;
     for (const InstrumentCaption& row : kInstrumentCaptions) {
         if (row.slide == slide && instrument == QLatin1String(row.key))
             return &row.captions[language];

@@ -16,6 +16,9 @@
 #include "GuitarTonariumMainPage.h"
 #include "MandolinTonarium.h"
 #include "MandolinTonariumMainPage.h"
+#include "Metronome.h"
+#include "MetronomeControls.h"
+#include "MetronomeMainPage.h"
 #include "NotesLernReportDialog.h"
 #include "NotesTrainerWidget.h"
 #include "NotesWidget.h"
@@ -27,6 +30,7 @@
 #include "UkuleleTonariumMainPage.h"
 #include "ViolinTonarium.h"
 #include "ViolinTonariumMainPage.h"
+#include <QTreeWidget>
 
 #include <QApplication>
 #include <QLabel>
@@ -319,10 +323,54 @@ SlideScenes::Scene menus(const QString& key)
     return { content, rings };
 }
 
+// The metronome after a few beats, its eyes to one side.
+std::unique_ptr<QMMusic::MetronomeMainPage> metronomePage()
+{
+    auto page = std::make_unique<QMMusic::MetronomeMainPage>();
+    QMWidgets::CorvaneProducts::addTo(page->promoMenuBar());
+    page->resize(kPageSize);
+    page->show();
+    settle();
+    for (int tick = 0; tick < 3; ++tick)
+        page->metronome()->slotTick();
+    return page;
+}
+
+QVector<SlideScenes::Scene> metronomeScenes()
+{
+    QVector<SlideScenes::Scene> scenes;
+    {
+        auto page = metronomePage();
+        scenes.append({ grab(page.get()), {} });
+    }
+    {
+        auto page = metronomePage();
+        QMMusic::MetronomeControls* controls = page->metronome()->controls();
+        page->metronome()->controls()->setInterval(120);
+        controls->setSelectListItem(120);
+        QList<QRectF> rings;
+        for (const char* name : { "TempoLabel" })
+            rings.append(geometryIn(controls->findChild<QWidget*>(QLatin1String(name)), page.get()));
+        rings.append(geometryIn(controls->tempoList(), page.get()));
+        scenes.append({ grab(page.get()), rings });
+    }
+    {
+        auto page = metronomePage();
+        QMMusic::MetronomeControls* controls = page->metronome()->controls();
+        QList<QRectF> rings;
+        for (const char* name : { "VisibleTickButton", "AudiableTickButton", "BeatCombo" })
+            rings.append(geometryIn(controls->findChild<QWidget*>(QLatin1String(name)), page.get()));
+        scenes.append({ grab(page.get()), rings });
+    }
+    return scenes;
+}
+
 } // namespace
 
 QVector<SlideScenes::Scene> SlideScenes::render(const QString& instrumentKey)
 {
+    if (instrumentKey == QLatin1String("Metronome"))
+        return metronomeScenes();
     // The piano has no training: its two scenes stay empty.
     const bool trains = instrumentKey != QLatin1String("Piano");
     return { welcome(instrumentKey), findOnNeck(instrumentKey), staffAndSigns(instrumentKey), hearNotes(instrumentKey),

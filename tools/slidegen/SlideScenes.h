@@ -17,7 +17,8 @@ public:
         QList<QRectF> rings;
     };
 
-    // The scenes on the page of an instrument key ("Guitar", "Ukulele", ...);
-    // a scene the instrument has nothing for has no content.
+    // The scenes on the page of an instrument key ("Guitar", "Ukulele", ...,
+    // or "Metronome" for its three); a scene the instrument has nothing for
+    // has no content.
     static QVector<Scene> render(const QString& instrumentKey);
 };

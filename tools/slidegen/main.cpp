@@ -1,7 +1,8 @@
 // slidegen: renders the introduction slides from a program's own widgets,
 // with captions in each slide language, into a folder; given a second
 // folder, also the screenshots of the program's store listing. A third
-// argument names the instrument ("Ukulele"), the guitar by default.
+// argument names the instrument ("Ukulele") or "Metronome"; the guitar by
+// default.
 #include "App.h"
 #include "AppStyleSheet.h"
 #include "SlideCaptions.h"
@@ -18,7 +19,8 @@ int main(int argc, char* argv[])
         return 1;
     const QString outputDir = QString::fromLocal8Bit(argv[1]);
     const QString instrument = argc > 3 ? QString::fromLocal8Bit(argv[3]) : QStringLiteral("Guitar");
-    const QString program = instrument + QStringLiteral("Tonarium");
+    const QString program
+        = instrument == QLatin1String("Metronome") ? instrument : instrument + QStringLiteral("Tonarium");
 
     // The application object makes the per-user folders; a throw-away home
     // keeps the builder's own untouched, and no update check may start.
@@ -51,7 +53,7 @@ int main(int argc, char* argv[])
         const QString screenshotDir = QString::fromLocal8Bit(argv[2]);
         QDir().mkpath(screenshotDir);
         ok = scenes.at(1).content.save(screenshotDir + QStringLiteral("/finder.png")) && ok;
-        if (!scenes.at(4).content.isNull())
+        if (scenes.size() > 4 && !scenes.at(4).content.isNull())
             ok = scenes.at(4).content.save(screenshotDir + QStringLiteral("/training.png")) && ok;
     }
     return ok ? 0 : 1;
