@@ -51,6 +51,73 @@
     </message>
 </context>
 <context>
+    <name>QMMusic::MetronomeControls</name>
+    <message>
+        <source>Largo</source>
+        <translation>Ларго</translation>
+    </message>
+    <message>
+        <source>38-56</source>
+        <translation>38-56</translation>
+    </message>
+    <message>
+        <source>Adagio</source>
+        <translation>Адажио</translation>
+    </message>
+    <message>
+        <source>57-70</source>
+        <translation>57-70</translation>
+    </message>
+    <message>
+        <source>Andante</source>
+        <translation>Анданте</translation>
+    </message>
+    <message>
+        <source>71-96</source>
+        <translation>71-96</translation>
+    </message>
+    <message>
+        <source>Moderato</source>
+        <translation>Модерато</translation>
+    </message>
+    <message>
+        <source>97-108</source>
+        <translation>97-108</translation>
+    </message>
+    <message>
+        <source>Allegro</source>
+        <translation>Аллегро</translation>
+    </message>
+    <message>
+        <source>109-168</source>
+        <translation>109-168</translation>
+    </message>
+    <message>
+        <source>Presto</source>
+        <translation>Престо</translation>
+    </message>
+    <message>
+        <source>169-208</source>
+        <translation>169-208</translation>
+    </message>
+    <message>
+        <source>Visible Tick</source>
+        <translation>Видимый удар</translation>
+    </message>
+    <message>
+        <source>Audiable Tick</source>
+        <translation>Слышимый удар</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Название</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Диапазон</translation>
+    </message>
+</context>
+<context>
     <name>QMMusic::NotesLernReportDialog</name>
     <message>
         <source>&amp;Ok</source>
