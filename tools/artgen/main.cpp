@@ -64,6 +64,9 @@ int main(int argc, char* argv[])
         iconsWritten = DesktopIconArt::generate(
                            parser.value(iconsOption), prefix + QStringLiteral("PianoTonarium"), { 0, false })
             && iconsWritten;
+        iconsWritten
+            = DesktopIconArt::generate(parser.value(iconsOption), prefix + QStringLiteral("Metronome"), { -1, false })
+            && iconsWritten;
         if (!iconsWritten)
             return 1;
     }

@@ -61,10 +61,30 @@ QVector<Shape> keyboard(bool small)
     return shapes;
 }
 
+// A metronome: its case, the scale plate and the pendulum swung to one
+// side, its weight marked.
+QVector<Shape> metronome(bool small)
+{
+    QVector<Shape> shapes;
+    shapes.append({ Shape::Tile, QRectF(8, 8, 240, 240), {}, kTileColor, small ? 16.0 : 10.0 });
+    shapes.append({ Shape::Box, QRectF(64, 52, 128, 164), {}, kNeckColor, 0 });
+    shapes.append({ Shape::Box, QRectF(48, 204, 160, 22), {}, kEdgeColor, 0 });
+    if (!small)
+        shapes.append({ Shape::Box, QRectF(108, 96, 40, 100), {}, kNutColor, 0 });
+    shapes.append({ Shape::Line, {}, QLineF(128, 196, 170, 70), kStringColor, small ? 14.0 : 8.0 });
+    const QPointF weight(156, 112);
+    const double radius = small ? 30 : 22;
+    shapes.append({ Shape::Ring, QRectF(weight.x() - radius, weight.y() - radius, 2 * radius, 2 * radius), {},
+        kMarkColor, small ? 16.0 : 9.0 });
+    return shapes;
+}
+
 QVector<Shape> drawing(bool small, const DesktopIconArt::Motif& motif)
 {
     if (motif.strings == 0)
         return keyboard(small);
+    if (motif.strings < 0)
+        return metronome(small);
     QVector<Shape> shapes;
     shapes.append({ Shape::Tile, QRectF(8, 8, 240, 240), {}, kTileColor, small ? 16.0 : 10.0 });
     const double top = small ? 64 : 72;

@@ -16,7 +16,7 @@ public:
     // What tells the instruments apart at a glance.
     struct Motif
     {
-        // 0: the keys of a keyboard instead of a neck.
+        // 0: the keys of a keyboard instead of a neck; below 0 a metronome.
         int strings;
         bool fretted;
     };
