@@ -2,6 +2,8 @@
 
 #include <QtTest>
 
+#include <algorithm>
+
 #include <cmath>
 #include <complex>
 
@@ -164,6 +166,12 @@ void tst_InstrumentSamples::sample()
     // metronome's last sample, a string's last 10 ms.
     if (family == Unpitched) {
         QVERIFY2(std::abs(sound.samples.last()) < 0.01f, qPrintable(QString::number(sound.samples.last())));
+        // The metronome's sounds start at once: what is heard falls on the beat.
+        const auto onset = std::find_if(sound.samples.cbegin(), sound.samples.cend(),
+            [peak](float value) { return std::abs(value) > 0.1f * peak; });
+        const qint64 onsetFrame = (onset - sound.samples.cbegin()) / sound.channels;
+        QVERIFY2(
+            onsetFrame < sound.sampleRate / 1000, qPrintable(QStringLiteral("onset after %1 frames").arg(onsetFrame)));
         return;
     }
     const double end = levelDb(sound.samples, sound.samples.size() - 441, 441);
