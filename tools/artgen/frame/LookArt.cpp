@@ -253,12 +253,53 @@ void paintPlay(QPainter& p, const QSizeF& s, bool pressed, bool hover)
     }
 }
 
+// The message box's pictures: a round copper badge with its sign, "i",
+// "!", "?" or a cross, in the program's palette instead of the platform's.
+void paintMessageIcon(QPainter& p, const QSizeF& size, const QString& sign, const QColor& colour)
+{
+    const QRectF badge(size.width() * 0.06, size.height() * 0.06, size.width() * 0.88, size.height() * 0.88);
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(0, 0, 0, 70));
+    p.drawEllipse(badge.translated(size.width() * 0.02, size.height() * 0.03));
+    QRadialGradient fill(badge.center() - QPointF(badge.width() * 0.18, badge.height() * 0.22), badge.width() * 0.7);
+    fill.setColorAt(0.0, colour.lighter(150));
+    fill.setColorAt(0.6, colour);
+    fill.setColorAt(1.0, colour.darker(170));
+    p.setPen(QPen(QColor(255, 240, 220, 170), size.width() * 0.025));
+    p.setBrush(fill);
+    p.drawEllipse(badge);
+    QFont font(QStringLiteral("DejaVu Serif"));
+    font.setBold(true);
+    font.setPixelSize(int(size.height() * 0.58));
+    p.setFont(font);
+    p.setPen(QColor(255, 248, 236));
+    p.drawText(badge, Qt::AlignCenter, sign);
+}
+
 } // namespace
 
 void LookArt::generate(ArtWriter& writer)
 {
     generateChannels(writer);
     generateInstruments(writer);
+
+    const struct
+    {
+        const char* name;
+        const char* sign;
+        QColor colour;
+    } messageIcons[] = {
+        { "MessageInformation", "i", QColor(176, 98, 48) },
+        { "MessageQuestion", "?", QColor(176, 98, 48) },
+        { "MessageWarning", "!", QColor(200, 140, 30) },
+        { "MessageCritical", "\u00d7", QColor(170, 50, 40) },
+    };
+    for (const auto& icon : messageIcons) {
+        const QString sign = QString::fromUtf8(icon.sign);
+        const QColor colour = icon.colour;
+        writer.addPicturePair(QLatin1String(icon.name), QSize(64, 64),
+            [sign, colour](QPainter& p, const QSizeF& s) { paintMessageIcon(p, s, sign, colour); });
+    }
 
     writer.addPicturePair(
         QStringLiteral("arrowleft"), QSize(40, 40), [](QPainter& p, const QSizeF& s) { paintArrow(p, s, true); });

@@ -2,6 +2,7 @@
 
 #include "AboutDialog.h"
 #include "AppPalette.h"
+#include "AppStyle.h"
 #include "App_mac.h"
 #include "BlenderWidget.h"
 #include "CorvaneSite.h"
@@ -76,6 +77,8 @@ App::App(int& argc, char** argv, const QString& organizationName, const QString&
 
     // Every window shows where Tab took the focus, in the program's colours.
     new FocusRing(this);
+    // The style first: setting it resets the palette.
+    QApplication::setStyle(new AppStyle);
     AppPalette::apply();
 
     if (settingsValue(QStringLiteral("checkupdates"), true).toBool())

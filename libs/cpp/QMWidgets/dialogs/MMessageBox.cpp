@@ -35,7 +35,10 @@ MMessageBox::MMessageBox(Icon icon, const QString& title, const QString& text, i
     const QPixmap pixmap = MMessageBox::icon(icon);
     m_iconLabel = new QLabel(this);
     m_iconLabel->setPixmap(pixmap);
-    m_iconLabel->setFixedSize(pixmap.width() + 5, pixmap.height() + 5);
+    // The picture's size on screen: a picture for a high-density screen has
+    // more pixels than it covers.
+    const QSize shown = pixmap.isNull() ? QSize() : (QSizeF(pixmap.size()) / pixmap.devicePixelRatio()).toSize();
+    m_iconLabel->setFixedSize(shown.width() + 5, shown.height() + 5);
 
     QBoxLayout* buttonsLayout
         = isPocketDevice() ? static_cast<QBoxLayout*>(new QVBoxLayout) : static_cast<QBoxLayout*>(new QHBoxLayout);
