@@ -44,10 +44,10 @@ pa_context* PulseConnection::context() const
     return m_context && pa_context_get_state(m_context) == PA_CONTEXT_READY ? m_context : nullptr;
 }
 
-pa_stream* PulseConnection::newStream(const pa_sample_spec* spec)
+pa_stream* PulseConnection::newStream(const pa_sample_spec* format)
 {
     pa_context* ready = context();
-    pa_stream* stream = ready ? pa_stream_new(ready, "sample", spec, nullptr) : nullptr;
+    pa_stream* stream = ready ? pa_stream_new(ready, "sample", format, nullptr) : nullptr;
     if (stream)
         ++m_streams;
     return stream;

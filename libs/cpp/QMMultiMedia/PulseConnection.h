@@ -39,7 +39,7 @@ public:
     pa_context* context() const;
     // A new playback stream of the ready context, or null; it counts against
     // MaximumStreams until retired and closed. Call with the lock held.
-    pa_stream* newStream(const pa_sample_spec* spec);
+    pa_stream* newStream(const pa_sample_spec* format);
     // Whether another stream may be made now. Call with the lock held.
     bool hasRoom();
     // Takes over a stream that is no longer wanted. One still being made on

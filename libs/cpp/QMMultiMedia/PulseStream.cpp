@@ -105,22 +105,22 @@ bool PulseStream::tryCreate()
     if (!connection.hasRoom())
         return false;
     pa_context* context = connection.context();
-    pa_sample_spec spec;
-    spec.format = PA_SAMPLE_S16LE;
-    spec.rate = static_cast<uint32_t>(m_sampleRate);
-    spec.channels = 2;
-    if (!pa_sample_spec_valid(&spec)) {
+    pa_sample_spec format;
+    format.format = PA_SAMPLE_S16LE;
+    format.rate = static_cast<uint32_t>(m_sampleRate);
+    format.channels = 2;
+    if (!pa_sample_spec_valid(&format)) {
         m_failed = true;
         return false;
     }
-    m_stream = connection.newStream(&spec);
+    m_stream = connection.newStream(&format);
     if (!m_stream) {
         m_failed = true;
         return false;
     }
     pa_buffer_attr attributes;
     attributes.maxlength = static_cast<uint32_t>(-1);
-    attributes.tlength = static_cast<uint32_t>(pa_usec_to_bytes(TargetMilliseconds * 1000, &spec));
+    attributes.tlength = static_cast<uint32_t>(pa_usec_to_bytes(TargetMilliseconds * 1000, &format));
     attributes.prebuf = static_cast<uint32_t>(-1);
     attributes.minreq = static_cast<uint32_t>(-1);
     attributes.fragsize = static_cast<uint32_t>(-1);
