@@ -256,9 +256,10 @@ void TestGuitarTonarium::boardPressReachesStaffThenTrainer()
     QCOMPARE(page.trainer->currentAccidental(), accidental);
     QCOMPARE(page.staff->isSharp(), accidental > 0);
 
-    // The staff repaints and reports the note back to the board, which takes
-    // it silently: the round trip ends there.
-    QTest::qWait(100);
+    // The staff reports the note back to the board when it paints, and the
+    // board takes it silently: the round trip ends there.
+    page.staff->repaint();
+    QCoreApplication::processEvents();
     QCOMPARE(boardSpy.count(), 1);
     QCOMPARE(page.board->currentNote(), QMMusic::NoteSpelling::positionStem(position));
 }
@@ -287,7 +288,9 @@ void TestGuitarTonarium::staffHoverLightsBoard()
     QTRY_COMPARE(page.board->currentNote(), name);
     QVERIFY(staffSpy.count() >= 1);
     QCOMPARE(staffSpy.last().at(0).toString(), name);
-    QTest::qWait(100);
+    // Another paint of the staff reports the note again.
+    page.staff->repaint();
+    QCoreApplication::processEvents();
     // The board lights the note without announcing it again.
     QCOMPARE(boardSpy.count(), 0);
     QCOMPARE(page.trainer->currentNote(), QString());
