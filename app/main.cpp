@@ -13,11 +13,28 @@
 
 #include <algorithm>
 #include <type_traits>
+#include <utility>
 
 namespace {
 
+// Pages with a menu bar list the maker's products in it; the tuners carry
+// their menus in their own bars.
+template <typename Page, typename = void> struct HasMenuBar : std::false_type
+{
+};
+template <typename Page>
+struct HasMenuBar<Page, std::void_t<decltype(std::declval<Page&>().promoMenuBar())>> : std::true_type
+{
+};
+
+template <typename Page> void addProducts(Page& page)
+{
+    if constexpr (HasMenuBar<Page>::value)
+        QMWidgets::CorvaneProducts::addTo(page.promoMenuBar());
+}
+
 // A note finder has a shop and a minimum size, and opens at that size; the
-// metronome keeps its own minimum and opens at the size it asks for.
+// other pages keep their own minimum and open at the size they ask for.
 template <typename Page> QSize addShopAndMinimumSize(Page& page)
 {
     if constexpr (std::is_base_of_v<QMMusic::BaseMainPage, Page>) {
@@ -61,7 +78,7 @@ int main(int argc, char* argv[])
 
     QM_PAGE_CLASS page;
 
-    QMWidgets::CorvaneProducts::addTo(page.promoMenuBar());
+    addProducts(page);
     const QSize opening = addShopAndMinimumSize(page);
     // Only the tuner pages store these; this window opens at the size above.
     // A hand-edited size is kept within the screen.

@@ -29,6 +29,17 @@
     </message>
 </context>
 <context>
+    <name>QMMusic::BassGuitarTuner</name>
+    <message>
+        <source>5 Strings</source>
+        <translation>5 Saiten</translation>
+    </message>
+    <message>
+        <source>4 Strings</source>
+        <translation>4 Saiten</translation>
+    </message>
+</context>
+<context>
     <name>QMMusic::BoardBehaviour</name>
     <message>
         <source>Find Note</source>
@@ -118,6 +129,41 @@
     </message>
 </context>
 <context>
+    <name>QMMusic::ModesPanel</name>
+    <message>
+        <source>Modes</source>
+        <translation>Modi</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Must Have</source>
+        <translation>Unverzichtbar</translation>
+    </message>
+    <message>
+        <source>Nice to Have</source>
+        <translation>Schön zu haben</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Hear</source>
+        <translation>Hören</translation>
+    </message>
+    <message>
+        <source>See</source>
+        <translation>Sehen</translation>
+    </message>
+    <message>
+        <source>Wikipedia</source>
+        <translation>Wikipedia</translation>
+    </message>
+</context>
+<context>
     <name>QMMusic::NotesLernReportDialog</name>
     <message>
         <source>&amp;Ok</source>
@@ -175,6 +221,144 @@
     <message>
         <source>si</source>
         <translation>si</translation>
+    </message>
+</context>
+<context>
+    <name>QMMusic::TunersCommonPanel</name>
+    <message>
+        <source>A4:415Hz (Baroque Pitch)</source>
+        <translation>A4:415Hz (Barockstimmung)</translation>
+    </message>
+    <message>
+        <source>A4:430Hz (Scintific Pitch)</source>
+        <translation>A4:430Hz (Wissenschaftliche Stimmung)</translation>
+    </message>
+    <message>
+        <source>A4:435Hz (France1859 Pitch)</source>
+        <translation>A4:435Hz (Frankreich 1859)</translation>
+    </message>
+    <message>
+        <source>A4:439Hz (New Philarmonic Pitch)</source>
+        <translation>A4:439Hz (Neue Philharmonische Stimmung)</translation>
+    </message>
+    <message>
+        <source>A4:440Hz (Concert Pitch)</source>
+        <translation>A4:440Hz (Kammerton)</translation>
+    </message>
+    <message>
+        <source>A4:442Hz (Boston Symphony Orchestra Pitch)</source>
+        <translation>A4:442Hz (Boston Symphony Orchestra)</translation>
+    </message>
+    <message>
+        <source>A4:443Hz (New Berliner Philharmonic Pitch)</source>
+        <translation>A4:443Hz (Neue Berliner Philharmonie)</translation>
+    </message>
+    <message>
+        <source>A4:445Hz (Old Berliner Philharmonic Pitch)</source>
+        <translation>A4:445Hz (Alte Berliner Philharmonie)</translation>
+    </message>
+    <message>
+        <source>A4:452Hz (Old Philarmonic Pitch)</source>
+        <translation>A4:452Hz (Alte Philharmonische Stimmung)</translation>
+    </message>
+    <message>
+        <source>A4:460Hz (Renaissance Pitch)</source>
+        <translation>A4:460Hz (Renaissance-Stimmung)</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Stimmton</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>App</translation>
+    </message>
+    <message>
+        <source>Rate this App</source>
+        <translation>Diese App bewerten</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Teilen</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>Mitmachen</translation>
+    </message>
+    <message>
+        <source>More Apps</source>
+        <translation>Weitere Apps</translation>
+    </message>
+    <message>
+        <source>Contacts Us</source>
+        <translation>Kontakt</translation>
+    </message>
+    <message>
+        <source>Support Page</source>
+        <translation>Hilfeseite</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>QMMusic::TunersExplorer</name>
+    <message>
+        <source>&lt;center&gt;Guitar&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Gitarre&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;BassGuitar&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Bassgitarre&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Ukulele&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Ukulele&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Banjo&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Banjo&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Violin&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Geige&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Viola&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Bratsche&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Cello&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Cello&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;DoubleBass&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Kontrabass&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Mandolin&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Mandoline&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Balalaika&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Balalaika&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Dombra&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Dombra&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;More Apps&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Weitere Apps&lt;/center&gt;</translation>
     </message>
 </context>
 <context>

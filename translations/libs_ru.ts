@@ -29,6 +29,17 @@
     </message>
 </context>
 <context>
+    <name>QMMusic::BassGuitarTuner</name>
+    <message>
+        <source>5 Strings</source>
+        <translation>5 струн</translation>
+    </message>
+    <message>
+        <source>4 Strings</source>
+        <translation>4 струны</translation>
+    </message>
+</context>
+<context>
     <name>QMMusic::BoardBehaviour</name>
     <message>
         <source>Find Note</source>
@@ -118,6 +129,41 @@
     </message>
 </context>
 <context>
+    <name>QMMusic::ModesPanel</name>
+    <message>
+        <source>Modes</source>
+        <translation>Режимы</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Ещё</translation>
+    </message>
+    <message>
+        <source>Must Have</source>
+        <translation>Самое нужное</translation>
+    </message>
+    <message>
+        <source>Nice to Have</source>
+        <translation>Приятное дополнение</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Читать</translation>
+    </message>
+    <message>
+        <source>Hear</source>
+        <translation>Слушать</translation>
+    </message>
+    <message>
+        <source>See</source>
+        <translation>Смотреть</translation>
+    </message>
+    <message>
+        <source>Wikipedia</source>
+        <translation>Википедия</translation>
+    </message>
+</context>
+<context>
     <name>QMMusic::NotesLernReportDialog</name>
     <message>
         <source>&amp;Ok</source>
@@ -175,6 +221,144 @@
     <message>
         <source>si</source>
         <translation>си</translation>
+    </message>
+</context>
+<context>
+    <name>QMMusic::TunersCommonPanel</name>
+    <message>
+        <source>A4:415Hz (Baroque Pitch)</source>
+        <translation>A4:415Гц (барочный строй)</translation>
+    </message>
+    <message>
+        <source>A4:430Hz (Scintific Pitch)</source>
+        <translation>A4:430Гц (научный строй)</translation>
+    </message>
+    <message>
+        <source>A4:435Hz (France1859 Pitch)</source>
+        <translation>A4:435Гц (Франция 1859)</translation>
+    </message>
+    <message>
+        <source>A4:439Hz (New Philarmonic Pitch)</source>
+        <translation>A4:439Гц (новый филармонический строй)</translation>
+    </message>
+    <message>
+        <source>A4:440Hz (Concert Pitch)</source>
+        <translation>A4:440Гц (концертный строй)</translation>
+    </message>
+    <message>
+        <source>A4:442Hz (Boston Symphony Orchestra Pitch)</source>
+        <translation>A4:442Гц (Бостонский симфонический оркестр)</translation>
+    </message>
+    <message>
+        <source>A4:443Hz (New Berliner Philharmonic Pitch)</source>
+        <translation>A4:443Гц (новый строй Берлинской филармонии)</translation>
+    </message>
+    <message>
+        <source>A4:445Hz (Old Berliner Philharmonic Pitch)</source>
+        <translation>A4:445Гц (старый строй Берлинской филармонии)</translation>
+    </message>
+    <message>
+        <source>A4:452Hz (Old Philarmonic Pitch)</source>
+        <translation>A4:452Гц (старый филармонический строй)</translation>
+    </message>
+    <message>
+        <source>A4:460Hz (Renaissance Pitch)</source>
+        <translation>A4:460Гц (строй эпохи Возрождения)</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Строй</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Повтор</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>Программа</translation>
+    </message>
+    <message>
+        <source>Rate this App</source>
+        <translation>Оценить программу</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Поделиться</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>Присоединиться</translation>
+    </message>
+    <message>
+        <source>More Apps</source>
+        <translation>Другие программы</translation>
+    </message>
+    <message>
+        <source>Contacts Us</source>
+        <translation>Связаться с нами</translation>
+    </message>
+    <message>
+        <source>Support Page</source>
+        <translation>Страница поддержки</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Выход</translation>
+    </message>
+</context>
+<context>
+    <name>QMMusic::TunersExplorer</name>
+    <message>
+        <source>&lt;center&gt;Guitar&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Гитара&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;BassGuitar&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Бас-гитара&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Ukulele&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Укулеле&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Banjo&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Банджо&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Violin&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Скрипка&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Viola&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Альт&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Cello&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Виолончель&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;DoubleBass&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Контрабас&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Mandolin&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Мандолина&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Balalaika&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Балалайка&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;Dombra&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Домбра&lt;/center&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;center&gt;More Apps&lt;/center&gt;</source>
+        <translation>&lt;center&gt;Другие программы&lt;/center&gt;</translation>
     </message>
 </context>
 <context>

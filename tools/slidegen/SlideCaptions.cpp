@@ -139,11 +139,32 @@ const Caption kMetronomeCaptions[3][3] = {
         { "Доли и тишина", "Выберите число долей в такте; глаз и динамик выключают и включают лицо и звук." } },
 };
 
+// The tuners' three slides; columns English, German, Russian.
+const Caption kTunersCaptions[3][3] = {
+    { { "Tune by ear", "Press a string's button to hear how it should sound; tune until the two sound as one." },
+        { "Stimme nach Gehör",
+            "Drücke die Taste einer Saite, um zu hören, wie sie klingen soll; stimme, bis beide wie eine klingen." },
+        { "Настраивайте на слух",
+            "Нажмите кнопку струны, чтобы услышать, как она должна звучать; настраивайте, пока оба звука не "
+            "сольются." } },
+    { { "Eleven instruments", "From the violin to the dombra: choose your instrument in the column on the left." },
+        { "Elf Instrumente", "Von der Geige bis zur Dombra: wähle dein Instrument in der Spalte links." },
+        { "Одиннадцать инструментов", "От скрипки до домбры: выберите свой инструмент в колонке слева." } },
+    { { "Pitch and repeat",
+          "Choose the concert pitch from 415 to 460 Hz; in repeat mode a chosen string sounds every second." },
+        { "Stimmton und Wiederholung",
+            "Wähle den Stimmton von 415 bis 460 Hz; im Wiederholmodus erklingt eine gewählte Saite jede Sekunde." },
+        { "Строй и повтор",
+            "Выберите строй от 415 до 460 Гц; в режиме повтора выбранная струна звучит каждую секунду." } },
+};
+
 // The instrument's own caption of a slide, if it has one.
 const Caption* instrumentCaption(int slide, int language, const QString& instrument)
 {
     if (instrument == QLatin1String("Metronome"))
         return slide < 3 ? &kMetronomeCaptions[slide][language] : nullptr;
+    if (instrument == QLatin1String("Tuners"))
+        return slide < 3 ? &kTunersCaptions[slide][language] : nullptr;
     for (const InstrumentCaption& row : kInstrumentCaptions) {
         if (row.slide == slide && instrument == QLatin1String(row.key))
             return &row.captions[language];

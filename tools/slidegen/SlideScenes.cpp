@@ -26,6 +26,11 @@
 #include "PianoTonarium.h"
 #include "PianoTonariumMainPage.h"
 #include "PromoMenuBar.h"
+#include "TuneButton.h"
+#include "TunerBasePage.h"
+#include "TunersCommonPanel.h"
+#include "TunersExplorer.h"
+#include "TunersMainPage.h"
 #include "UkuleleTonarium.h"
 #include "UkuleleTonariumMainPage.h"
 #include "ViolinTonarium.h"
@@ -365,12 +370,72 @@ QVector<SlideScenes::Scene> metronomeScenes()
     return scenes;
 }
 
+std::unique_ptr<QMMusic::TunersMainPage> tunersPage()
+{
+    auto page = std::make_unique<QMMusic::TunersMainPage>();
+    page->resize(kPageSize);
+    page->show();
+    settle();
+    return page;
+}
+
+// A string button held down, as a press looks while it sounds.
+void holdDown(QMMusic::TuneButton* button)
+{
+    button->setDown(true);
+    settle();
+}
+
+QVector<SlideScenes::Scene> tunersScenes()
+{
+    QVector<SlideScenes::Scene> scenes;
+    {
+        auto page = tunersPage();
+        QMMusic::TunerBasePage* guitar = page->pages().at(4);
+        holdDown(guitar->button(1));
+        QList<QRectF> rings;
+        for (int key = 0; key < 6; ++key)
+            rings.append(geometryIn(guitar->button(key), page.get()));
+        scenes.append({ grab(page.get()), rings });
+    }
+    {
+        auto page = tunersPage();
+        page->explorer()->instrumentButton(QStringLiteral("ViolinButton"))->click();
+        holdDown(page->pages().at(0)->button(2));
+        const QStringList tiles
+            = { QStringLiteral("ViolinButton"), QStringLiteral("CelloButton"), QStringLiteral("DombraButton") };
+        QList<QRectF> rings;
+        for (const QString& tile : tiles)
+            rings.append(geometryIn(page->explorer()->instrumentButton(tile), page.get()));
+        scenes.append({ grab(page.get()), rings });
+    }
+    {
+        auto page = tunersPage();
+        QMMusic::TunersCommonPanel* panel = page->explorer()->commonPanel();
+        panel->repeatButton()->setChecked(true);
+        QMenu* menu = panel->pitchButton()->menu();
+        menu->ensurePolished();
+        menu->resize(menu->sizeHint());
+        const QRectF pitch = geometryIn(panel->pitchButton(), page.get());
+        QImage picture = grab(page.get());
+        QPainter painter(&picture);
+        const qreal scale = picture.width() / qreal(page->width());
+        painter.scale(scale, scale);
+        painter.drawImage(QPointF(pitch.left(), pitch.bottom() + 2), menu->grab().toImage());
+        painter.end();
+        scenes.append({ picture, { pitch, geometryIn(panel->repeatButton(), page.get()) } });
+    }
+    return scenes;
+}
+
 } // namespace
 
 QVector<SlideScenes::Scene> SlideScenes::render(const QString& instrumentKey)
 {
     if (instrumentKey == QLatin1String("Metronome"))
         return metronomeScenes();
+    if (instrumentKey == QLatin1String("Tuners"))
+        return tunersScenes();
     // The piano has no training: its two scenes stay empty.
     const bool trains = instrumentKey != QLatin1String("Piano");
     return { welcome(instrumentKey), findOnNeck(instrumentKey), staffAndSigns(instrumentKey), hearNotes(instrumentKey),

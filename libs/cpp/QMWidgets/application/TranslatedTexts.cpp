@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QLabel>
 #include <QWidget>
 
 namespace QMWidgets {
@@ -23,6 +24,11 @@ void TranslatedTexts::setText(QAction* action, const char* source)
 void TranslatedTexts::setText(QAbstractButton* button, const char* source)
 {
     add(button, source, Property::ButtonText);
+}
+
+void TranslatedTexts::setText(QLabel* label, const char* source)
+{
+    add(label, source, Property::LabelText);
 }
 
 void TranslatedTexts::setToolTip(QWidget* widget, const char* source)
@@ -62,6 +68,9 @@ void TranslatedTexts::apply(const Entry& entry) const
         break;
     case Property::ButtonText:
         static_cast<QAbstractButton*>(entry.target.data())->setText(text);
+        break;
+    case Property::LabelText:
+        static_cast<QLabel*>(entry.target.data())->setText(text);
         break;
     case Property::ToolTip:
         static_cast<QWidget*>(entry.target.data())->setToolTip(text);

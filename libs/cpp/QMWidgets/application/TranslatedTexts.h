@@ -6,6 +6,7 @@
 
 class QAbstractButton;
 class QAction;
+class QLabel;
 class QWidget;
 
 namespace QMWidgets {
@@ -27,6 +28,7 @@ public:
     // Mark the source texts with QT_TR_NOOP so that lupdate finds them.
     void setText(QAction* action, const char* source);
     void setText(QAbstractButton* button, const char* source);
+    void setText(QLabel* label, const char* source);
     void setToolTip(QWidget* widget, const char* source);
 
     void retranslate();
@@ -39,6 +41,7 @@ private:
     {
         ActionText,
         ButtonText,
+        LabelText,
         ToolTip
     };
     struct Entry
