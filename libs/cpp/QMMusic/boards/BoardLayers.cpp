@@ -9,8 +9,8 @@ namespace QMMusic {
 BoardLayers::BoardLayers(const QString& backgroundFile)
     : m_background(backgroundFile)
 {
-    if (!m_background.isNull() && m_background.height() > 0)
-        m_aspect = float(m_background.width()) / float(m_background.height());
+    if (!m_background.isNull())
+        m_aspect = float(m_background.size().width()) / float(m_background.size().height());
 }
 
 float BoardLayers::aspect() const
@@ -55,11 +55,8 @@ void BoardLayers::drawBackground(QPainter& painter, const QRect& target)
 {
     if (m_background.isNull())
         return;
-    const QSize pixels = target.size() * pixelRatio();
-    if (m_scaledBackground.size() != pixels) {
-        m_scaledBackground = m_background.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    }
-    painter.drawPixmap(target, m_scaledBackground, m_scaledBackground.rect());
+    const QPixmap scaled = m_background.at(target.size() * pixelRatio());
+    painter.drawPixmap(target, scaled, scaled.rect());
 }
 
 void BoardLayers::drawOverlay(QPainter& painter, const QRect& target, const QString& file)

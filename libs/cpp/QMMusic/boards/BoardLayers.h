@@ -4,12 +4,14 @@
 #include <QSize>
 #include <QString>
 
+#include "ScaledPicture.h"
+
 class QPainter;
 class QRect;
 
 namespace QMMusic {
 
-// The pictures of a board: the neck, loaded once, and the overlay of the
+// The pictures of a board: the neck, decoded at the size shown, and the overlay of the
 // note shown. Keeps their copies scaled to the widget so that a repaint
 // only draws; a new size or a new overlay file drops the copies.
 class BoardLayers
@@ -37,9 +39,8 @@ public:
 private:
     static QPixmap scaled(const QPixmap& picture, const QSize& size);
 
-    QPixmap m_background;
+    QMWidgets::ScaledPicture m_background;
     float m_aspect = 0.0f;
-    QPixmap m_scaledBackground;
     QString m_overlayFile;
     QPixmap m_overlay;
     QPixmap m_scaledOverlay;

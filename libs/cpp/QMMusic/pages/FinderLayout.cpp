@@ -18,7 +18,7 @@ QMWidgets::Label* makeSideLabel(const QString& objectName, const QString& resour
     label->setObjectName(objectName);
     label->setMode(QMWidgets::Label::Fill);
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    label->setRetinaPixmap(QPixmap(resource));
+    label->setRetinaPicture(resource);
     return label;
 }
 

@@ -28,8 +28,22 @@ Label::Mode Label::mode() const
 void Label::setRetinaPixmap(const QPixmap& pixmap)
 {
     m_pixmap = pixmap;
+    m_picture = ScaledPicture();
     m_scaledPixmap = QPixmap();
     update();
+}
+
+void Label::setRetinaPicture(const QString& resource)
+{
+    m_pixmap = QPixmap();
+    m_picture = ScaledPicture(resource);
+    m_scaledPixmap = QPixmap();
+    update();
+}
+
+QSize Label::pictureSize() const
+{
+    return m_picture.isNull() ? m_pixmap.size() : m_picture.size();
 }
 
 QSize Label::scaledPictureSize(const QSize& pictureSize, const QSize& labelSize, qreal ratio, Mode mode)
@@ -52,15 +66,19 @@ void Label::updateScaledPixmap(qreal ratio)
 {
     m_scaledForSize = size();
     m_scaledForRatio = ratio;
-    const QSize pixels = scaledPictureSize(m_pixmap.size(), size(), ratio, m_mode);
-    m_scaledPixmap
-        = pixels.isEmpty() ? QPixmap() : m_pixmap.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QSize pixels = scaledPictureSize(pictureSize(), size(), ratio, m_mode);
+    if (pixels.isEmpty())
+        m_scaledPixmap = QPixmap();
+    else if (!m_picture.isNull())
+        m_scaledPixmap = m_picture.at(pixels);
+    else
+        m_scaledPixmap = m_pixmap.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 void Label::paintEvent(QPaintEvent* event)
 {
     QLabel::paintEvent(event);
-    if (m_pixmap.isNull())
+    if (pictureSize().isEmpty())
         return;
 
     const App* app = App::theApp();
@@ -73,7 +91,7 @@ void Label::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(
-        pictureRect(m_pixmap.size(), size(), ratio, m_mode), m_scaledPixmap, QRectF(m_scaledPixmap.rect()));
+        pictureRect(pictureSize(), size(), ratio, m_mode), m_scaledPixmap, QRectF(m_scaledPixmap.rect()));
 }
 
 } // namespace QMWidgets

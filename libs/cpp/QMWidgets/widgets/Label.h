@@ -4,6 +4,8 @@
 #include <QPixmap>
 #include <QRectF>
 
+#include "ScaledPicture.h"
+
 namespace QMWidgets {
 
 // A label that paints its picture at the screen's full pixel density, either
@@ -25,6 +27,8 @@ public:
     void setMode(Mode mode);
     Mode mode() const;
     void setRetinaPixmap(const QPixmap& pixmap);
+    // A picture of the resources, decoded when first painted, at the size painted.
+    void setRetinaPicture(const QString& resource);
 
     // Where a picture of pictureSize lands in a label of labelSize (logical
     // units) at the pixel ratio, and the device pixels it is scaled to.
@@ -36,8 +40,10 @@ protected:
 
 private:
     void updateScaledPixmap(qreal ratio);
+    QSize pictureSize() const;
 
     QPixmap m_pixmap;
+    ScaledPicture m_picture;
     Mode m_mode = Fit;
     QPixmap m_scaledPixmap;
     QSize m_scaledForSize;
