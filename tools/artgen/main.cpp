@@ -15,6 +15,7 @@
 #include "PianoArt.h"
 #include "StaffArt.h"
 #include "TrainerArt.h"
+#include "TunerSampleSynth.h"
 
 #include <QCommandLineParser>
 #include <QFontDatabase>
@@ -51,6 +52,7 @@ int main(int argc, char* argv[])
     GuitarSampleSynth::generate(writer);
     InstrumentSampleSynth::generate(writer);
     MetronomeSoundSynth::generate(writer);
+    TunerSampleSynth::generate(writer);
     if (parser.isSet(iconsOption)) {
         const QString prefix = parser.value(iconPrefixOption);
         bool iconsWritten

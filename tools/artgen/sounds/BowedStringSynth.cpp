@@ -28,7 +28,7 @@ double rise(double t, double start, double duration)
 QVector<float> BowedStringSynth::bow(int midiNote, const Parameters& p)
 {
     const int length = static_cast<int>(std::lround(p.lengthSeconds * SampleRate));
-    const double f0 = NoteSampleEncoder::frequency(midiNote);
+    const double f0 = NoteSampleEncoder::frequency(midiNote, p.concertPitch);
     const int harmonics = qMax(1, static_cast<int>(std::floor(qMin(p.bandLimit, 0.45 * SampleRate) / f0)));
 
     // The sawtooth's harmonics, 1/k, and beyond the roll-off a further fall;

@@ -23,6 +23,8 @@ public:
 
     struct Parameters
     {
+        // A4 in Hz, from which the note is tuned in equal temperament.
+        double concertPitch = 440.0;
         // Time for the bow to bring the string to its full level (the low
         // harmonics; the high ones take up to half as long again).
         double attackSeconds = 0.1;

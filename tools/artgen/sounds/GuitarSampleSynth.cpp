@@ -1,11 +1,8 @@
 #include "GuitarSampleSynth.h"
 
 #include "NoteSampleEncoder.h"
-#include "PluckedStringSynth.h"
 
-namespace {
-
-PluckedStringSynth::Parameters guitar()
+PluckedStringSynth::Parameters GuitarSampleSynth::parameters()
 {
     PluckedStringSynth::Parameters p;
     p.lowestMidiNote = GuitarSampleSynth::LowestMidiNote;
@@ -26,11 +23,9 @@ PluckedStringSynth::Parameters guitar()
     return p;
 }
 
-} // namespace
-
 QVector<float> GuitarSampleSynth::pluck(int midiNote)
 {
-    return PluckedStringSynth::pluck(midiNote, guitar());
+    return PluckedStringSynth::pluck(midiNote, parameters());
 }
 
 void GuitarSampleSynth::generate(ArtWriter& writer)

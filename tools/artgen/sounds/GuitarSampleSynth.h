@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PluckedStringSynth.h"
+
 #include <QVector>
 
 class ArtWriter;
@@ -14,6 +16,9 @@ public:
     static const int HighestMidiNote = 86; // D6
 
     static void generate(ArtWriter& writer);
+
+    // The guitar's string and body.
+    static PluckedStringSynth::Parameters parameters();
 
     // 2.5 s of a plucked string at the note's pitch (A4 = 440 Hz).
     static QVector<float> pluck(int midiNote);

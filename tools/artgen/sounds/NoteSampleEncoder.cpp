@@ -21,9 +21,13 @@ NoteSampleEncoder::~NoteSampleEncoder()
 
 void NoteSampleEncoder::encode(const QString& instrumentKey, int midiNote, const QVector<float>& samples)
 {
+    encode(QMMusic::NoteSpelling::sampleFileName(instrumentKey, stem(midiNote)), samples);
+}
+
+void NoteSampleEncoder::encode(const QString& fileName, const QVector<float>& samples)
+{
     if (!m_scratch.isValid())
         return;
-    const QString fileName = QMMusic::NoteSpelling::sampleFileName(instrumentKey, stem(midiNote));
     const QString wavePath = m_scratch.filePath(fileName + QStringLiteral(".wav"));
     QFile wave(wavePath);
     if (!wave.open(QIODevice::WriteOnly))
@@ -57,7 +61,7 @@ QString NoteSampleEncoder::stem(int midiNote)
     return QLatin1String(names[midiNote % 12]) + QString::number(midiNote / 12 - 1);
 }
 
-double NoteSampleEncoder::frequency(int midiNote)
+double NoteSampleEncoder::frequency(int midiNote, double concertPitch)
 {
-    return 440.0 * std::pow(2.0, (midiNote - 69) / 12.0);
+    return concertPitch * std::pow(2.0, (midiNote - 69) / 12.0);
 }

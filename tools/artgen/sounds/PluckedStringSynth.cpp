@@ -92,7 +92,7 @@ double PluckedStringSynth::allpassCoefficient(double delay, double omega)
 QVector<float> PluckedStringSynth::pluck(int midiNote, const Parameters& p)
 {
     const int length = static_cast<int>(std::lround(p.lengthSeconds * SampleRate));
-    const double f0 = NoteSampleEncoder::frequency(midiNote);
+    const double f0 = NoteSampleEncoder::frequency(midiNote, p.concertPitch);
     const double period = SampleRate / f0;
     const double t = rangePosition(midiNote, p);
     const double decay = p.decayLowSeconds + t * (p.decayHighSeconds - p.decayLowSeconds);

@@ -26,6 +26,8 @@ public:
         // The range over which the per-note values below go from low to high.
         int lowestMidiNote = 40;
         int highestMidiNote = 86;
+        // A4 in Hz, from which the note is tuned in equal temperament.
+        double concertPitch = 440.0;
         // Time for the fundamental to fall by 60 dB at the lowest and highest note.
         double decayLowSeconds = 8.0;
         double decayHighSeconds = 5.5;
