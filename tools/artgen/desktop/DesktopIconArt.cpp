@@ -95,12 +95,12 @@ QVector<Shape> tuningFork(bool small)
     shapes.append({ Shape::Box, QRectF(left - prong / 2, 132, right - left + prong, prong), {}, kFretColor, 0 });
     shapes.append({ Shape::Line, {}, QLineF(128, 132, 128, 226), kFretColor, small ? 24.0 : 18.0 });
     // The ring of the prongs, marks beside their tips.
-    const double out = small ? 38 : 44;
-    shapes.append({ Shape::Line, {}, QLineF(left - out, 50, left - out, 104), kMarkColor, small ? 16.0 : 9.0 });
-    shapes.append({ Shape::Line, {}, QLineF(right + out, 50, right + out, 104), kMarkColor, small ? 16.0 : 9.0 });
+    const double out = small ? 40 : 46;
+    shapes.append({ Shape::Line, {}, QLineF(left - out, 46, left - out, 108), kMarkColor, small ? 24.0 : 14.0 });
+    shapes.append({ Shape::Line, {}, QLineF(right + out, 46, right + out, 108), kMarkColor, small ? 24.0 : 14.0 });
     if (!small) {
-        shapes.append({ Shape::Line, {}, QLineF(left - 66, 62, left - 66, 92), kMarkColor, 7.0 });
-        shapes.append({ Shape::Line, {}, QLineF(right + 66, 62, right + 66, 92), kMarkColor, 7.0 });
+        shapes.append({ Shape::Line, {}, QLineF(left - 70, 60, left - 70, 94), kMarkColor, 9.0 });
+        shapes.append({ Shape::Line, {}, QLineF(right + 70, 60, right + 70, 94), kMarkColor, 9.0 });
     }
     return shapes;
 }
@@ -130,7 +130,7 @@ QVector<Shape> chordDiagram(bool small)
         shapes.append({ Shape::Line, {}, QLineF(x, top, x, bottom), kStringColor, small ? 10.0 : 4.0 });
     }
     // A dot is a ring as thick as its radius is wide.
-    const double radius = small ? 7 : 6;
+    const double radius = small ? 10 : 7;
     auto dot = [&](int string, int onFret) {
         const QPointF at(left + string * step, top + (onFret - 0.5) * fret);
         shapes.append({ Shape::Ring, QRectF(at.x() - radius, at.y() - radius, 2 * radius, 2 * radius), {}, kMarkColor,

@@ -141,7 +141,7 @@ QImage TunerExplorerArt::tile(const QImage& instrument, Look look, int scale)
         const double w = cut.width();
         const double h = cut.height();
         const double fit = qMin(inner.width() / (w * c + h * s), inner.height() / (w * s + h * c));
-        const QSize size(qMax(1, int(w * fit * scale * 1.08)), qMax(1, int(h * fit * scale * 1.08)));
+        const QSize size(qMax(1, int(w * fit * scale * 1.2)), qMax(1, int(h * fit * scale * 1.2)));
         QImage small = cut.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         if (hover)
             small = brightened(small, 1.25);

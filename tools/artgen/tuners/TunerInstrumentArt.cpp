@@ -224,9 +224,9 @@ Design design(const QString& key)
         d.scale = 645;
         d.neck = d.fretY(14) - d.head;
         d.body = 505;
-        d.outline
-            = { { 0, 0 }, { 0.015, 62 }, { 0.05, 108 }, { 0.13, 138 }, { 0.22, 142 }, { 0.33, 128 }, { 0.44, 120 },
-                  { 0.55, 136 }, { 0.68, 176 }, { 0.8, 195 }, { 0.9, 182 }, { 0.96, 138 }, { 0.99, 70 }, { 1, 0 } };
+        d.outline = { { 0, 0 }, { 0.01, 42 }, { 0.04, 92 }, { 0.1, 126 }, { 0.19, 142 }, { 0.28, 137 }, { 0.38, 121 },
+            { 0.45, 116 }, { 0.53, 128 }, { 0.65, 170 }, { 0.78, 194 }, { 0.88, 186 }, { 0.95, 150 }, { 0.99, 80 },
+            { 1, 0 } };
         d.nutWidth = 43;
         d.heelWidth = 56;
         d.boardEnd = d.fretY(20) - d.head + 8;
@@ -763,12 +763,17 @@ void drawPickguard(QPainter& painter, const Design& d)
         // The balalaika's shield below the hole, under the strings.
         guard.addEllipse(QPointF(0, hole.y() + r * 4.2), r * 2.6, r * 1.8);
     } else {
-        // A guard beside the hole, on the treble side below it.
-        guard.moveTo(hole + QPointF(r * 0.9, -r * 0.2));
+        // A guard beside the hole, on the treble side below it, its inner
+        // edge following the rosette.
+        const double ring = r * 1.36;
+        auto around = [&](double degrees) {
+            return hole + QPointF(std::cos(qDegreesToRadians(degrees)), std::sin(qDegreesToRadians(degrees))) * ring;
+        };
+        guard.moveTo(around(-20));
         guard.cubicTo(
-            hole + QPointF(r * 2.3, -r * 0.6), hole + QPointF(r * 2.6, r * 1.2), hole + QPointF(r * 1.8, r * 2.4));
-        guard.cubicTo(
-            hole + QPointF(r * 1.2, r * 3.0), hole + QPointF(r * 0.3, r * 1.9), hole + QPointF(r * 0.8, r * 1.0));
+            hole + QPointF(r * 2.2, -r * 0.6), hole + QPointF(r * 2.7, r * 1.3), hole + QPointF(r * 1.9, r * 2.3));
+        guard.cubicTo(hole + QPointF(r * 1.3, r * 2.9), hole + QPointF(r * 0.5, r * 2.2), around(85));
+        guard.arcTo(QRectF(hole.x() - ring, hole.y() - ring, 2 * ring, 2 * ring), -85, 105);
         guard.closeSubpath();
     }
     const QRectF box = guard.boundingRect();
@@ -1149,12 +1154,12 @@ void drawBridgeAndTail(QPainter& painter, const Design& d)
 
     if (d.tail == Tail::Trapeze) {
         // A metal tailpiece from the bottom edge up towards the bridge.
-        const double top = y + (d.bodyBottom() - y) * 0.35;
+        const double top = y + (d.bodyBottom() - y) * 0.5;
         QPainterPath tail;
-        tail.moveTo(-spread * 0.5, top);
-        tail.lineTo(spread * 0.5, top);
-        tail.lineTo(spread * 0.28, d.bodyBottom() + 4);
-        tail.lineTo(-spread * 0.28, d.bodyBottom() + 4);
+        tail.moveTo(-spread * 0.42, top);
+        tail.lineTo(spread * 0.42, top);
+        tail.lineTo(spread * 0.2, d.bodyBottom() + 4);
+        tail.lineTo(-spread * 0.2, d.bodyBottom() + 4);
         tail.closeSubpath();
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(0, 0, 0, 110));
@@ -1218,8 +1223,8 @@ void drawStrings(QPainter& painter, const Design& d)
                 endY = d.bridgeY() + d.body * 0.13;
                 endX = bridgeX * 0.8;
             } else if (d.tail == Tail::Trapeze) {
-                endY = d.bridgeY() + (d.bodyBottom() - d.bridgeY()) * 0.4;
-                endX = bridgeX * 0.85;
+                endY = d.bridgeY() + (d.bodyBottom() - d.bridgeY()) * 0.55;
+                endX = bridgeX * 0.75;
             } else if (d.tail == Tail::Button) {
                 endY = d.bodyBottom() - 4;
                 endX = 0;
