@@ -15,6 +15,8 @@
 #include "PianoArt.h"
 #include "StaffArt.h"
 #include "TrainerArt.h"
+#include "TunerExplorerArt.h"
+#include "TunerInstrumentArt.h"
 #include "TunerSampleSynth.h"
 
 #include <QCommandLineParser>
@@ -48,6 +50,7 @@ int main(int argc, char* argv[])
     InstrumentSideArt::generate(writer);
     TrainerArt::generate(writer);
     MetronomeArt::generate(writer);
+    TunerExplorerArt::generate(writer, TunerInstrumentArt::generate(writer));
     FrameArt::generate(writer);
     GuitarSampleSynth::generate(writer);
     InstrumentSampleSynth::generate(writer);
@@ -66,8 +69,14 @@ int main(int argc, char* argv[])
         iconsWritten = DesktopIconArt::generate(
                            parser.value(iconsOption), prefix + QStringLiteral("PianoTonarium"), { 0, false })
             && iconsWritten;
-        iconsWritten
-            = DesktopIconArt::generate(parser.value(iconsOption), prefix + QStringLiteral("Metronome"), { -1, false })
+        iconsWritten = DesktopIconArt::generate(
+                           parser.value(iconsOption), prefix + QStringLiteral("Metronome"), DesktopIconArt::metronome())
+            && iconsWritten;
+        iconsWritten = DesktopIconArt::generate(
+                           parser.value(iconsOption), prefix + QStringLiteral("Tuners"), DesktopIconArt::tuningFork())
+            && iconsWritten;
+        iconsWritten = DesktopIconArt::generate(
+                           parser.value(iconsOption), prefix + QStringLiteral("Chords"), DesktopIconArt::chordDiagram())
             && iconsWritten;
         if (!iconsWritten)
             return 1;

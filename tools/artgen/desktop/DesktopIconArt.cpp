@@ -79,10 +79,83 @@ QVector<Shape> metronome(bool small)
     return shapes;
 }
 
+// A tuning fork standing on strings, its prongs ringing.
+QVector<Shape> tuningFork(bool small)
+{
+    QVector<Shape> shapes;
+    shapes.append({ Shape::Tile, QRectF(8, 8, 240, 240), {}, kTileColor, small ? 16.0 : 10.0 });
+    shapes.append({ Shape::Box, QRectF(28, 166, 200, 52), {}, kNeckColor, 0 });
+    for (double y : small ? QVector<double> { 192 } : QVector<double> { 180, 192, 204 })
+        shapes.append({ Shape::Line, {}, QLineF(28, y, 228, y), kStringColor, small ? 10.0 : 4.0 });
+    const double prong = small ? 30 : 22;
+    const double left = small ? 92 : 98;
+    const double right = 256 - left;
+    shapes.append({ Shape::Line, {}, QLineF(left, 40, left, 142), kFretColor, prong });
+    shapes.append({ Shape::Line, {}, QLineF(right, 40, right, 142), kFretColor, prong });
+    shapes.append({ Shape::Box, QRectF(left - prong / 2, 132, right - left + prong, prong), {}, kFretColor, 0 });
+    shapes.append({ Shape::Line, {}, QLineF(128, 132, 128, 226), kFretColor, small ? 24.0 : 18.0 });
+    // The ring of the prongs, marks beside their tips.
+    const double out = small ? 40 : 46;
+    shapes.append({ Shape::Line, {}, QLineF(left - out, 46, left - out, 108), kMarkColor, small ? 24.0 : 14.0 });
+    shapes.append({ Shape::Line, {}, QLineF(right + out, 46, right + out, 108), kMarkColor, small ? 24.0 : 14.0 });
+    if (!small) {
+        shapes.append({ Shape::Line, {}, QLineF(left - 70, 60, left - 70, 94), kMarkColor, 9.0 });
+        shapes.append({ Shape::Line, {}, QLineF(right + 70, 60, right + 70, 94), kMarkColor, 9.0 });
+    }
+    return shapes;
+}
+
+// A chord's diagram: the nut, frets across, strings down and the fingers
+// of an A minor as dots.
+QVector<Shape> chordDiagram(bool small)
+{
+    QVector<Shape> shapes;
+    shapes.append({ Shape::Tile, QRectF(8, 8, 240, 240), {}, kTileColor, small ? 16.0 : 10.0 });
+    const int strings = small ? 4 : 6;
+    const int frets = small ? 3 : 4;
+    const double left = small ? 56 : 52;
+    const double right = 256 - left;
+    const double top = small ? 60 : 56;
+    const double bottom = small ? 212 : 216;
+    const double fret = (bottom - top) / frets;
+    const double step = (right - left) / (strings - 1);
+    shapes.append({ Shape::Box, QRectF(left - 6, top - 8, right - left + 12, bottom - top + 8), {}, kNeckColor, 0 });
+    shapes.append({ Shape::Line, {}, QLineF(left - 6, top - 4, right + 6, top - 4), kNutColor, small ? 18.0 : 12.0 });
+    for (int i = 1; i <= frets; ++i) {
+        const double y = top + i * fret;
+        shapes.append({ Shape::Line, {}, QLineF(left, y, right, y), kFretColor, small ? 10.0 : 5.0 });
+    }
+    for (int i = 0; i < strings; ++i) {
+        const double x = left + i * step;
+        shapes.append({ Shape::Line, {}, QLineF(x, top, x, bottom), kStringColor, small ? 10.0 : 4.0 });
+    }
+    // A dot is a ring as thick as its radius is wide.
+    const double radius = small ? 10 : 7;
+    auto dot = [&](int string, int onFret) {
+        const QPointF at(left + string * step, top + (onFret - 0.5) * fret);
+        shapes.append({ Shape::Ring, QRectF(at.x() - radius, at.y() - radius, 2 * radius, 2 * radius), {}, kMarkColor,
+            2 * radius });
+    };
+    if (small) {
+        dot(1, 2);
+        dot(2, 2);
+        dot(3, 1);
+    } else {
+        dot(2, 2);
+        dot(3, 2);
+        dot(4, 1);
+    }
+    return shapes;
+}
+
 QVector<Shape> drawing(bool small, const DesktopIconArt::Motif& motif)
 {
     if (motif.strings == 0)
         return keyboard(small);
+    if (motif.strings == DesktopIconArt::tuningFork().strings)
+        return tuningFork(small);
+    if (motif.strings == DesktopIconArt::chordDiagram().strings)
+        return chordDiagram(small);
     if (motif.strings < 0)
         return metronome(small);
     QVector<Shape> shapes;

@@ -16,12 +16,18 @@ public:
     // What tells the instruments apart at a glance.
     struct Motif
     {
-        // 0: the keys of a keyboard instead of a neck; below 0 a metronome.
+        // 0: the keys of a keyboard instead of a neck; below 0 one of the
+        // figures below.
         int strings;
         bool fretted;
     };
     // The guitar's.
     static constexpr Motif guitar() { return { 6, true }; }
+    static constexpr Motif metronome() { return { -1, false }; }
+    // The tuners': a tuning fork ringing over strings.
+    static constexpr Motif tuningFork() { return { -2, false }; }
+    // The chords': a chord's diagram, strings, frets and fingers.
+    static constexpr Motif chordDiagram() { return { -3, false }; }
 
     // The sizes of the hicolor theme that get a PNG.
     static QVector<int> sizes();

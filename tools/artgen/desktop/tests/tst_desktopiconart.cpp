@@ -49,6 +49,41 @@ private slots:
         QVERIFY2(pixelsNear(icon, QColor(0xf4, 0xe7, 0xc8)) >= minimum, "a string");
     }
 
+    void everyFigureKeepsItsMarkAndItsLines_data()
+    {
+        QTest::addColumn<int>("figure");
+        QTest::addColumn<int>("size");
+        const struct
+        {
+            const char* name;
+            DesktopIconArt::Motif motif;
+        } figures[]
+            = { { "tuning fork", DesktopIconArt::tuningFork() }, { "chord diagram", DesktopIconArt::chordDiagram() } };
+        for (const auto& figure : figures) {
+            for (int size : DesktopIconArt::sizes())
+                QTest::newRow(qPrintable(QStringLiteral("%1, %2 px").arg(QLatin1String(figure.name)).arg(size)))
+                    << figure.motif.strings << size;
+        }
+    }
+
+    // The tuners' fork rings in the mark's colour and the chords' fingers
+    // are dots of it; both keep whole pixels of the mark and of the light
+    // lines (prongs, frets, strings) down to 16 px, on a tile whose corners
+    // stay see-through.
+    void everyFigureKeepsItsMarkAndItsLines()
+    {
+        QFETCH(int, figure);
+        QFETCH(int, size);
+        const QImage icon = DesktopIconArt::png(size, { figure, false }).convertToFormat(QImage::Format_ARGB32);
+        QCOMPARE(icon.pixelColor(0, 0).alpha(), 0);
+        QCOMPARE(icon.pixelColor(size - 1, 0).alpha(), 0);
+        const int minimum = qMax(2, size * size / 200);
+        QVERIFY2(pixelsNear(icon, QColor(0x38, 0xd6, 0xf0)) >= minimum, "the mark");
+        QVERIFY2(pixelsNear(icon, QColor(0xd8, 0xd8, 0xd0)) + pixelsNear(icon, QColor(0xf4, 0xe7, 0xc8)) >= minimum,
+            "the light lines");
+        QVERIFY(DesktopIconArt::png(size, { figure, false }) != DesktopIconArt::png(size, DesktopIconArt::metronome()));
+    }
+
     void svgIsWellFormedAndSquare()
     {
         QXmlStreamReader reader(DesktopIconArt::svg());
