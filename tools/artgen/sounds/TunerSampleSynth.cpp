@@ -22,8 +22,8 @@ InstrumentSampleSynth::Instrument finderInstrument(const char* key)
 
 InstrumentSampleSynth::Instrument plucked(const PluckedStringSynth::Parameters& sound)
 {
-    return { QString(), sound.lowestMidiNote, sound.highestMidiNote, InstrumentSampleSynth::Playing::Plucked, sound,
-        {}, {} };
+    return { QString(), sound.lowestMidiNote, sound.highestMidiNote, InstrumentSampleSynth::Playing::Plucked, sound, {},
+        {} };
 }
 
 InstrumentSampleSynth::Instrument bowed(const BowedStringSynth::Parameters& sound)

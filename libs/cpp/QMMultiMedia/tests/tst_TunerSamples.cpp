@@ -146,7 +146,8 @@ void tst_TunerSamples::sample_data()
     for (const Page& page : Pages) {
         for (const QString& note : QString::fromLatin1(page.notes).split(QLatin1Char(' '))) {
             for (int pitch : ConcertPitches) {
-                const QString file = QStringLiteral("%1_%2_%3.mp3").arg(QLatin1String(page.prefix)).arg(pitch).arg(note);
+                const QString file
+                    = QStringLiteral("%1_%2_%3.mp3").arg(QLatin1String(page.prefix)).arg(pitch).arg(note);
                 if (files.contains(file))
                     continue;
                 files.insert(file);
