@@ -18,6 +18,7 @@ enum class Top
     Spruce, // a light top under clear lacquer
     Varnished, // the violin family's red-brown varnish over an arched top
     Sunburst, // dark towards the edge
+    Lacquer, // an even, glossy paint
     Drum, // the banjo's frosted head in its metal rim
 };
 
@@ -261,12 +262,13 @@ Design design(const QString& key)
         d.gauges = { 7.0, 6.2, 5.4, 4.6 };
         d.frets = 20;
         d.inlays = { 3, 5, 7, 9, 12, 15, 17, 19 };
-        d.top = Top::Sunburst;
+        // A cream lacquer, the grain faint under it.
+        d.top = Top::Lacquer;
         d.hole = Hole::Pickups;
         d.headKind = Head::Inline;
         d.pickguard = true;
-        d.topDark = QColor(120, 52, 14);
-        d.topLight = QColor(232, 164, 78);
+        d.topDark = QColor(206, 192, 160);
+        d.topLight = QColor(236, 228, 204);
         d.neckDark = QColor(190, 140, 80);
         d.neckLight = QColor(238, 208, 156);
         d.boardDark = kRosewoodDark;
@@ -706,7 +708,14 @@ void drawBody(QPainter& painter, const Design& d, const QPainterPath& body)
         return;
     }
 
-    fillWood(painter, body, box, d.topDark, d.topLight, d.seed);
+    if (d.top == Top::Lacquer) {
+        QRadialGradient paint(box.center() - QPointF(width * 0.15, box.height() * 0.1), box.height() * 0.7);
+        paint.setColorAt(0.0, d.topLight);
+        paint.setColorAt(1.0, d.topDark);
+        painter.fillPath(body, paint);
+    } else {
+        fillWood(painter, body, box, d.topDark, d.topLight, d.seed);
+    }
     if (d.top == Top::Sunburst) {
         QRadialGradient burst(box.center() + QPointF(0, box.height() * 0.12), box.height() * 0.62);
         burst.setColorAt(0.0, QColor(0, 0, 0, 0));
@@ -803,7 +812,7 @@ void drawPickups(QPainter& painter, const Design& d)
     for (int half = 0; half < 2; ++half) {
         const double x0 = half ? 0.0 : -d.bridgeSpread * 0.62;
         const double yy = y + (half ? 16 : -16);
-        const QRectF pickup(x0 - 4, yy - 12, d.bridgeSpread * 0.62 + 8, 24);
+        const QRectF pickup(x0 - 8, yy - 15, d.bridgeSpread * 0.62 + 16, 30);
         painter.setPen(QPen(QColor(70, 70, 74), 1.2));
         painter.setBrush(QColor(18, 18, 20));
         painter.drawRoundedRect(pickup, 8, 8);
