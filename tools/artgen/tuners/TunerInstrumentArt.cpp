@@ -1112,10 +1112,10 @@ void drawHead(QPainter& painter, const Design& d)
         painter.setBrush(metal(post - QPointF(0, 4), post + QPointF(0, 4)));
         painter.drawRect(
             QRectF(QPointF(qMin(edge, out), post.y() - w * 0.045), QPointF(qMax(edge, out), post.y() + w * 0.045)));
-        const bool wooden = d.stringKind == Strings::Nylon && d.fifthStringFret == 0 && !d.doubled;
+        // The dombra's two pegs are turned wood, every other key metal.
+        const bool wooden = d.strings == 2;
         const double size = d.headKind == Head::Inline ? 0.3 : 0.2;
-        drawKnob(painter, QPointF(out, post.y()), w * size, w * size * 0.62, wooden && d.strings == 2,
-            QColor(220, 200, 170));
+        drawKnob(painter, QPointF(out, post.y()), w * size, w * size * 0.62, wooden, QColor(220, 200, 170));
         if (d.doubled) {
             // The mandolin's second post of a course sits beside the first.
             drawKnob(painter, QPointF(out, post.y() + d.head * 0.08), w * size, w * size * 0.62, false, QColor());
@@ -1242,7 +1242,6 @@ void drawBridgeAndTail(QPainter& painter, const Design& d)
         }
         return;
     }
-    painter.setBrush(d.top == Top::Drum ? QColor(210, 180, 130) : QColor(30, 16, 10));
     QLinearGradient body(foot.topLeft(), foot.bottomLeft());
     body.setColorAt(0.0, d.top == Top::Drum ? QColor(236, 212, 170) : QColor(70, 40, 26));
     body.setColorAt(1.0, d.top == Top::Drum ? QColor(160, 124, 80) : QColor(20, 10, 6));
