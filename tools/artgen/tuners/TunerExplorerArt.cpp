@@ -219,7 +219,8 @@ void TunerExplorerArt::generate(ArtWriter& writer, const QMap<QString, QImage>& 
     const Look looks[] = { Look::Plain, Look::Hover, Look::Pressed, Look::PressedHover };
     QMap<QString, QImage> buttons;
     for (auto instrument = instruments.cbegin(); instrument != instruments.cend(); ++instrument)
-        buttons.insert(instrument.key() + QStringLiteral("Button"), instrument.value());
+        buttons.insert(
+            instrument.key() + QStringLiteral("Button"), instrument.value().copy(opaqueBounds(instrument.value())));
     buttons.insert(otherAppsButton(), QImage());
     for (auto button = buttons.cbegin(); button != buttons.cend(); ++button) {
         for (Look look : looks) {
@@ -229,7 +230,7 @@ void TunerExplorerArt::generate(ArtWriter& writer, const QMap<QString, QImage>& 
         }
     }
     // The style sheet names the cello's plain tile by this path.
-    const QImage cello = instruments.value(QStringLiteral("Cello"));
+    const QImage cello = buttons.value(QStringLiteral("CelloButton"));
     writer.addPicture(QStringLiteral("_resources/imgs/CelloButton.png"), tile(cello, Look::Plain, 1), -1, kGroup);
     writer.addPicture(QStringLiteral("_resources/imgs/CelloButton@2x.png"), tile(cello, Look::Plain, 2), -1, kGroup);
     writer.addPicture(QStringLiteral("background.png"), background(1), -1, kGroup);

@@ -18,6 +18,7 @@ enum class Top
     Spruce, // a light top under clear lacquer
     Varnished, // the violin family's red-brown varnish over an arched top
     Sunburst, // dark towards the edge
+    Lacquer, // an even, glossy paint
     Drum, // the banjo's frosted head in its metal rim
 };
 
@@ -89,6 +90,7 @@ struct Design
     Tail tail = Tail::PinBridge;
     bool chinrest = false;
     bool pickguard = false;
+    bool spruce = true; // the top's grain: spruce, or the hardwood of a solid body
     int fifthStringFret = 0; // the banjo's short string starts at this fret
     QColor topDark, topLight;
     QColor neckDark, neckLight;
@@ -154,8 +156,8 @@ Design design(const QString& key)
         d.headKind = Head::Scroll;
         d.tail = Tail::Tailpiece;
         d.chinrest = true;
-        d.topDark = viola ? QColor(92, 32, 12) : QColor(120, 48, 14);
-        d.topLight = viola ? QColor(160, 74, 30) : QColor(196, 106, 40);
+        d.topDark = viola ? QColor(70, 22, 8) : QColor(88, 32, 8);
+        d.topLight = viola ? QColor(150, 64, 26) : QColor(182, 90, 32);
         d.neckDark = d.topDark;
         d.neckLight = d.topLight;
         d.boardDark = kEbonyDark;
@@ -180,8 +182,8 @@ Design design(const QString& key)
         d.hole = Hole::FHoles;
         d.headKind = Head::Scroll;
         d.tail = Tail::Tailpiece;
-        d.topDark = QColor(78, 26, 8);
-        d.topLight = QColor(190, 84, 30);
+        d.topDark = QColor(64, 18, 4);
+        d.topLight = QColor(172, 72, 24);
         d.neckDark = d.topDark;
         d.neckLight = d.topLight;
         d.boardDark = kEbonyDark;
@@ -211,8 +213,8 @@ Design design(const QString& key)
         d.hole = Hole::FHoles;
         d.headKind = Head::ScrollMachines;
         d.tail = Tail::Tailpiece;
-        d.topDark = QColor(70, 34, 14);
-        d.topLight = QColor(172, 100, 46);
+        d.topDark = QColor(56, 26, 10);
+        d.topLight = QColor(150, 82, 36);
         d.neckDark = d.topDark;
         d.neckLight = d.topLight;
         d.boardDark = kEbonyDark;
@@ -261,12 +263,13 @@ Design design(const QString& key)
         d.gauges = { 7.0, 6.2, 5.4, 4.6 };
         d.frets = 20;
         d.inlays = { 3, 5, 7, 9, 12, 15, 17, 19 };
-        d.top = Top::Sunburst;
+        // A cream lacquer, the grain faint under it.
+        d.top = Top::Lacquer;
         d.hole = Hole::Pickups;
         d.headKind = Head::Inline;
         d.pickguard = true;
-        d.topDark = QColor(120, 52, 14);
-        d.topLight = QColor(232, 164, 78);
+        d.topDark = QColor(206, 192, 160);
+        d.topLight = QColor(236, 228, 204);
         d.neckDark = QColor(190, 140, 80);
         d.neckLight = QColor(238, 208, 156);
         d.boardDark = kRosewoodDark;
@@ -298,6 +301,7 @@ Design design(const QString& key)
         d.neckLight = QColor(180, 110, 56);
         d.boardDark = kRosewoodDark;
         d.boardLight = kRosewoodLight;
+        d.spruce = false;
         d.seed = 23;
     } else if (key == QLatin1String("Banjo")) {
         d.head = 180;
@@ -413,6 +417,7 @@ Design design(const QString& key)
         d.boardDark = d.neckDark;
         d.boardLight = d.neckLight;
         d.bindingColour = QColor(60, 26, 10);
+        d.spruce = false;
         d.seed = 27;
     }
     return d;
@@ -490,12 +495,44 @@ double halfWidthAt(const Design& d, double y)
 
 // Fills a shape with wood whose grain runs down the rectangle. The texture
 // is made at the size the rectangle takes in the picture.
-void fillWood(
-    QPainter& painter, const QPainterPath& shape, const QRectF& rect, const QColor& dark, const QColor& light, int seed)
+// Spruce, as the tops are cut: fine, straight, dark lines of late wood,
+// closer towards the middle of the log, with a faint silk across them. The
+// grain runs along the width, as WoodArt's does.
+QImage spruceTexture(const QSize& size, const QColor& dark, const QColor& light, int seed)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int v = 0; v < size.height(); ++v) {
+        QRgb* line = reinterpret_cast<QRgb*>(image.scanLine(v));
+        const double across = double(v) / size.height();
+        // Narrow rings at the middle of the top, wider at its edges.
+        const double rings = 34.0 * across + 10.0 * std::pow(std::abs(across - 0.5), 1.6) * 2.0;
+        for (int u = 0; u < size.width(); ++u) {
+            const double wave = 0.35 * WoodArt::valueNoise(u * 0.004, v * 0.02, seed + 1);
+            const double phase = rings * 3.0 + wave;
+            const double ring = phase - std::floor(phase);
+            const double lateWood = std::pow(qBound(0.0, (ring - 0.78) / 0.22, 1.0), 1.5);
+            const double tone = WoodArt::fbm(u * 0.003, v * 0.03, seed + 2);
+            const double silk = WoodArt::valueNoise(u * 0.08, v * 0.006, seed + 3);
+            const double t = 0.7 - 0.55 * lateWood - 0.6 * (tone - 0.5);
+            line[u] = WoodArt::mix(dark, light, t, 0.96 + 0.06 * silk);
+        }
+    }
+    return image;
+}
+
+enum class Grain
+{
+    Wood, // WoodArt's hardwood
+    Spruce,
+};
+
+void fillWood(QPainter& painter, const QPainterPath& shape, const QRectF& rect, const QColor& dark, const QColor& light,
+    int seed, Grain grain = Grain::Wood)
 {
     const QRectF onPicture = painter.transform().mapRect(rect);
     const QSize size(qBound(64, int(onPicture.height()), 1400), qBound(32, int(onPicture.width()), 900));
-    const QImage texture = WoodArt::woodTexture(size, dark, light, seed);
+    const QImage texture = grain == Grain::Spruce ? spruceTexture(size, dark, light, seed)
+                                                  : WoodArt::woodTexture(size, dark, light, seed);
     const QPolygonF flat(
         { QPointF(0, 0), QPointF(size.width(), 0), QPointF(size.width(), size.height()), QPointF(0, size.height()) });
     const QPolygonF quad({ rect.topLeft(), rect.bottomLeft(), rect.bottomRight(), rect.topRight() });
@@ -706,7 +743,22 @@ void drawBody(QPainter& painter, const Design& d, const QPainterPath& body)
         return;
     }
 
-    fillWood(painter, body, box, d.topDark, d.topLight, d.seed);
+    if (d.top == Top::Lacquer) {
+        QRadialGradient paint(box.center() - QPointF(width * 0.15, box.height() * 0.1), box.height() * 0.7);
+        paint.setColorAt(0.0, d.topLight);
+        paint.setColorAt(1.0, d.topDark);
+        painter.fillPath(body, paint);
+    } else {
+        fillWood(painter, body, box, d.topDark, d.topLight, d.seed, d.spruce ? Grain::Spruce : Grain::Wood);
+    }
+    if (d.top == Top::Varnished) {
+        // The varnish pools darker in the hollows beside the arching.
+        QRadialGradient pool(box.center(), box.height() * 0.55);
+        pool.setColorAt(0.0, QColor(0, 0, 0, 0));
+        pool.setColorAt(0.7, QColor(60, 16, 2, 40));
+        pool.setColorAt(1.0, QColor(40, 10, 0, 120));
+        painter.fillPath(body, pool);
+    }
     if (d.top == Top::Sunburst) {
         QRadialGradient burst(box.center() + QPointF(0, box.height() * 0.12), box.height() * 0.62);
         burst.setColorAt(0.0, QColor(0, 0, 0, 0));
@@ -803,7 +855,7 @@ void drawPickups(QPainter& painter, const Design& d)
     for (int half = 0; half < 2; ++half) {
         const double x0 = half ? 0.0 : -d.bridgeSpread * 0.62;
         const double yy = y + (half ? 16 : -16);
-        const QRectF pickup(x0 - 4, yy - 12, d.bridgeSpread * 0.62 + 8, 24);
+        const QRectF pickup(x0 - 8, yy - 15, d.bridgeSpread * 0.62 + 16, 30);
         painter.setPen(QPen(QColor(70, 70, 74), 1.2));
         painter.setBrush(QColor(18, 18, 20));
         painter.drawRoundedRect(pickup, 8, 8);
@@ -1060,10 +1112,10 @@ void drawHead(QPainter& painter, const Design& d)
         painter.setBrush(metal(post - QPointF(0, 4), post + QPointF(0, 4)));
         painter.drawRect(
             QRectF(QPointF(qMin(edge, out), post.y() - w * 0.045), QPointF(qMax(edge, out), post.y() + w * 0.045)));
-        const bool wooden = d.stringKind == Strings::Nylon && d.fifthStringFret == 0 && !d.doubled;
+        // The dombra's two pegs are turned wood, every other key metal.
+        const bool wooden = d.strings == 2;
         const double size = d.headKind == Head::Inline ? 0.3 : 0.2;
-        drawKnob(painter, QPointF(out, post.y()), w * size, w * size * 0.62, wooden && d.strings == 2,
-            QColor(220, 200, 170));
+        drawKnob(painter, QPointF(out, post.y()), w * size, w * size * 0.62, wooden, QColor(220, 200, 170));
         if (d.doubled) {
             // The mandolin's second post of a course sits beside the first.
             drawKnob(painter, QPointF(out, post.y() + d.head * 0.08), w * size, w * size * 0.62, false, QColor());
@@ -1190,7 +1242,6 @@ void drawBridgeAndTail(QPainter& painter, const Design& d)
         }
         return;
     }
-    painter.setBrush(d.top == Top::Drum ? QColor(210, 180, 130) : QColor(30, 16, 10));
     QLinearGradient body(foot.topLeft(), foot.bottomLeft());
     body.setColorAt(0.0, d.top == Top::Drum ? QColor(236, 212, 170) : QColor(70, 40, 26));
     body.setColorAt(1.0, d.top == Top::Drum ? QColor(160, 124, 80) : QColor(20, 10, 6));
