@@ -51,6 +51,21 @@
     </message>
 </context>
 <context>
+    <name>QMMusic::FavoritesDeleteDlg</name>
+    <message>
+        <source>Delete the chords</source>
+        <translation>Akkorde löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>QMMusic::FinderLayout</name>
     <message>
         <source>Info</source>
@@ -221,6 +236,67 @@
     <message>
         <source>si</source>
         <translation>si</translation>
+    </message>
+</context>
+<context>
+    <name>QMMusic::Transposer</name>
+    <message>
+        <source>Add chord</source>
+        <translation>Akkord hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove selected chord</source>
+        <translation>Gewählten Akkord entfernen</translation>
+    </message>
+    <message>
+        <source>Transpose</source>
+        <translation>Transponieren</translation>
+    </message>
+    <message>
+        <source>Sound On</source>
+        <translation>Ton an</translation>
+    </message>
+    <message>
+        <source>Sound Off</source>
+        <translation>Ton aus</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Speichern...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation>&amp;Löschen...</translation>
+    </message>
+    <message>
+        <source>Save Favorite</source>
+        <translation>Favorit speichern</translation>
+    </message>
+    <message>
+        <source>Favorite&apos;s Name:</source>
+        <translation>Name des Favoriten:</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Can not create the favorite without name</source>
+        <translation>Ein Favorit ohne Namen kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>Remove the favorite:
+ &quot;</source>
+        <translation>Den Favoriten entfernen:
+ „</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>“?</translation>
     </message>
 </context>
 <context>

@@ -51,6 +51,21 @@
     </message>
 </context>
 <context>
+    <name>QMMusic::FavoritesDeleteDlg</name>
+    <message>
+        <source>Delete the chords</source>
+        <translation>Удалить аккорды</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Отмена</translation>
+    </message>
+</context>
+<context>
     <name>QMMusic::FinderLayout</name>
     <message>
         <source>Info</source>
@@ -221,6 +236,67 @@
     <message>
         <source>si</source>
         <translation>си</translation>
+    </message>
+</context>
+<context>
+    <name>QMMusic::Transposer</name>
+    <message>
+        <source>Add chord</source>
+        <translation>Добавить аккорд</translation>
+    </message>
+    <message>
+        <source>Remove selected chord</source>
+        <translation>Убрать выбранный аккорд</translation>
+    </message>
+    <message>
+        <source>Transpose</source>
+        <translation>Транспонировать</translation>
+    </message>
+    <message>
+        <source>Sound On</source>
+        <translation>Звук вкл.</translation>
+    </message>
+    <message>
+        <source>Sound Off</source>
+        <translation>Звук выкл.</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Новый</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Сохранить...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation>&amp;Удалить...</translation>
+    </message>
+    <message>
+        <source>Save Favorite</source>
+        <translation>Сохранить в избранное</translation>
+    </message>
+    <message>
+        <source>Favorite&apos;s Name:</source>
+        <translation>Название:</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Внимание</translation>
+    </message>
+    <message>
+        <source>Can not create the favorite without name</source>
+        <translation>Нельзя сохранить избранное без названия</translation>
+    </message>
+    <message>
+        <source>Remove the favorite:
+ &quot;</source>
+        <translation>Удалить из избранного:
+ «</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>»?</translation>
     </message>
 </context>
 <context>

@@ -49,7 +49,7 @@ const Tile kTiles[3][4] = {
             &TunersExplorer::showBalalaika },
         { "DombraButton", QT_TRANSLATE_NOOP("QMMusic::TunersExplorer", "<center>Dombra</center>"),
             &TunersExplorer::showDombra },
-        { "MoreAppsButton", QT_TRANSLATE_NOOP("QMMusic::TunersExplorer", "<center>More Apps</center>"),
+        { "OtherAppsButton", QT_TRANSLATE_NOOP("QMMusic::TunersExplorer", "<center>More Apps</center>"),
             &TunersExplorer::showMore },
     },
 };

@@ -22,7 +22,7 @@ public:
 
     TunersCommonPanel* commonPanel() const;
     QButtonGroup* instrumentGroup() const;
-    // By object name, e.g. "CelloButton" or "MoreAppsButton".
+    // By object name, e.g. "CelloButton" or "OtherAppsButton".
     QPushButton* instrumentButton(const QString& objectName) const;
 
 signals:

@@ -71,7 +71,7 @@ QString build()
     const QStringList names = { QStringLiteral("GuitarButton"), QStringLiteral("BassGuitarButton"),
         QStringLiteral("UkuleleButton"), QStringLiteral("BanjoButton"), QStringLiteral("ViolinButton"),
         QStringLiteral("ViolaButton"), QStringLiteral("DoubleBassButton"), QStringLiteral("MandolinButton"),
-        QStringLiteral("BalalaikaButton"), QStringLiteral("DombraButton"), QStringLiteral("MoreAppsButton") };
+        QStringLiteral("BalalaikaButton"), QStringLiteral("DombraButton"), QStringLiteral("OtherAppsButton") };
     for (const QString& name : names)
         text += pictureButton(name, QStringLiteral(":/%1.png").arg(name));
     // The cello's plain picture has always lived in a folder of its own.

@@ -296,7 +296,7 @@ void tst_Tuners::explorerChoosesThePage()
         QCOMPARE(main.stack()->currentWidget(), pageNamed(main, tile.second));
         QVERIFY(button->isChecked());
     }
-    QPushButton* more = main.explorer()->instrumentButton(QStringLiteral("MoreAppsButton"));
+    QPushButton* more = main.explorer()->instrumentButton(QStringLiteral("OtherAppsButton"));
     QVERIFY(more && !more->isCheckable());
 }
 
