@@ -51,6 +51,13 @@
     </message>
 </context>
 <context>
+    <name>QMMusic::ChordBaseView</name>
+    <message>
+        <source>Drag&amp;Drop this picture to any editor</source>
+        <translation>Перетащите это изображение в любой редактор</translation>
+    </message>
+</context>
+<context>
     <name>QMMusic::FavoritesDeleteDlg</name>
     <message>
         <source>Delete the chords</source>

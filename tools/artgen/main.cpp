@@ -1,5 +1,6 @@
 // artgen: draws the program's pictures and synthesises its samples.
 #include "ArtWriter.h"
+#include "ChordArt.h"
 #include "DesktopIconArt.h"
 #include "FingerboardArt.h"
 #include "FingerboardDesign.h"
@@ -51,6 +52,7 @@ int main(int argc, char* argv[])
     TrainerArt::generate(writer);
     MetronomeArt::generate(writer);
     TunerExplorerArt::generate(writer, TunerInstrumentArt::generate(writer));
+    ChordArt::generate(writer);
     FrameArt::generate(writer);
     GuitarSampleSynth::generate(writer);
     InstrumentSampleSynth::generate(writer);
