@@ -28,7 +28,7 @@ done
 for metainfo in "$root"/usr/share/metainfo/*.metainfo.xml; do
     appstreamcli validate --no-net --pedantic "$metainfo" >/dev/null || fail "$metainfo"
 done
-programs="GuitarTonarium UkuleleTonarium ViolinTonarium BassTonarium BalalaikaTonarium BanjoTonarium MandolinTonarium PianoTonarium Metronome Tuners"
+programs="GuitarTonarium UkuleleTonarium ViolinTonarium BassTonarium BalalaikaTonarium BanjoTonarium MandolinTonarium PianoTonarium Metronome Tuners Chords"
 for program in $programs; do
     id=com.corvane.$program
     for size in 16 22 24 32 48 64 128 256 512; do
@@ -45,7 +45,7 @@ for sample in tick.wav bell.wav guitar_440_A4.mp3 ukulele_440_C4.mp3 violin_440_
     guitar_415_E2.mp3 violine_460_E5.mp3 dombra_440_D3.mp3; do
     [ -s "$root/usr/lib/tonarium/Resources/$sample" ] || fail "no $sample beside the programs"
 done
-for slides in "" UkuleleTonarium/ ViolinTonarium/ BassTonarium/ BalalaikaTonarium/ BanjoTonarium/ MandolinTonarium/ PianoTonarium/ Metronome/ Tuners/; do
+for slides in "" UkuleleTonarium/ ViolinTonarium/ BassTonarium/ BalalaikaTonarium/ BanjoTonarium/ MandolinTonarium/ PianoTonarium/ Metronome/ Tuners/ Chords/; do
     [ -s "$root/usr/lib/tonarium/Resources/${slides}TRXSlide0_de.jpg" ] || fail "no introduction slides in Resources/$slides"
 done
 

@@ -58,6 +58,41 @@
     </message>
 </context>
 <context>
+    <name>QMMusic::ChordsWindow</name>
+    <message>
+        <source>Guitar</source>
+        <translation>Gitarre</translation>
+    </message>
+    <message>
+        <source>Bass</source>
+        <translation>Bass</translation>
+    </message>
+    <message>
+        <source>Bass, high voicings</source>
+        <translation>Bass, hohe Lagen</translation>
+    </message>
+    <message>
+        <source>Ukulele</source>
+        <translation>Ukulele</translation>
+    </message>
+    <message>
+        <source>Mandolin</source>
+        <translation>Mandoline</translation>
+    </message>
+    <message>
+        <source>Banjo</source>
+        <translation>Banjo</translation>
+    </message>
+    <message>
+        <source>Balalaika</source>
+        <translation>Balalaika</translation>
+    </message>
+    <message>
+        <source>Piano</source>
+        <translation>Klavier</translation>
+    </message>
+</context>
+<context>
     <name>QMMusic::FavoritesDeleteDlg</name>
     <message>
         <source>Delete the chords</source>

@@ -58,6 +58,41 @@
     </message>
 </context>
 <context>
+    <name>QMMusic::ChordsWindow</name>
+    <message>
+        <source>Guitar</source>
+        <translation>Гитара</translation>
+    </message>
+    <message>
+        <source>Bass</source>
+        <translation>Бас</translation>
+    </message>
+    <message>
+        <source>Bass, high voicings</source>
+        <translation>Бас, высокие позиции</translation>
+    </message>
+    <message>
+        <source>Ukulele</source>
+        <translation>Укулеле</translation>
+    </message>
+    <message>
+        <source>Mandolin</source>
+        <translation>Мандолина</translation>
+    </message>
+    <message>
+        <source>Banjo</source>
+        <translation>Банджо</translation>
+    </message>
+    <message>
+        <source>Balalaika</source>
+        <translation>Балалайка</translation>
+    </message>
+    <message>
+        <source>Piano</source>
+        <translation>Фортепиано</translation>
+    </message>
+</context>
+<context>
     <name>QMMusic::FavoritesDeleteDlg</name>
     <message>
         <source>Delete the chords</source>

@@ -158,6 +158,30 @@ const Caption kTunersCaptions[3][3] = {
             "Выберите строй от 415 до 460 Гц; в режиме повтора выбранная струна звучит каждую секунду." } },
 };
 
+// The chord program's three slides; columns English, German, Russian.
+const Caption kChordsCaptions[3][3] = {
+    { { "Pick a chord", "Choose the root and the kind: the neck, the tablature and the hand show how to play it." },
+        { "Wähle einen Akkord",
+            "Wähle Grundton und Art: Griffbild, Tabulatur und die Hand zeigen, wie er gespielt wird." },
+        { "Выберите аккорд", "Выберите основной тон и вид: гриф, табулатура и рука покажут, как его играть." } },
+    { { "Write your song",
+          "Add chords below, click one to hear it, transpose the whole song and keep it as a favourite." },
+        { "Schreibe dein Lied",
+            "Füge unten Akkorde hinzu, klicke einen an, um ihn zu hören, transponiere das ganze Lied und bewahre es "
+            "als "
+            "Favorit auf." },
+        { "Запишите свою песню",
+            "Добавляйте аккорды внизу, нажмите на аккорд, чтобы услышать его, транспонируйте всю песню и сохраните её "
+            "в "
+            "избранном." } },
+    { { "Eight instruments",
+          "Guitar, bass, ukulele, mandolin, banjo, balalaika and piano: the chord and the song come along." },
+        { "Acht Instrumente",
+            "Gitarre, Bass, Ukulele, Mandoline, Banjo, Balalaika und Klavier: Akkord und Lied kommen mit." },
+        { "Восемь инструментов",
+            "Гитара, бас, укулеле, мандолина, банджо, балалайка и фортепиано: аккорд и песня остаются с вами." } },
+};
+
 // The instrument's own caption of a slide, if it has one.
 const Caption* instrumentCaption(int slide, int language, const QString& instrument)
 {
@@ -165,6 +189,8 @@ const Caption* instrumentCaption(int slide, int language, const QString& instrum
         return slide < 3 ? &kMetronomeCaptions[slide][language] : nullptr;
     if (instrument == QLatin1String("Tuners"))
         return slide < 3 ? &kTunersCaptions[slide][language] : nullptr;
+    if (instrument == QLatin1String("Chords"))
+        return slide < 3 ? &kChordsCaptions[slide][language] : nullptr;
     for (const InstrumentCaption& row : kInstrumentCaptions) {
         if (row.slide == slide && instrument == QLatin1String(row.key))
             return &row.captions[language];

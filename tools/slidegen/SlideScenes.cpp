@@ -8,6 +8,10 @@
 #include "BassTonarium.h"
 #include "BassTonariumMainPage.h"
 #include "BoardBase.h"
+#include "ChordView.h"
+#include "ChordsButtonsPanel.h"
+#include "ChordsMainPage.h"
+#include "ChordsWindow.h"
 #include "CorvaneProducts.h"
 #include "DecoratedNotesWidget.h"
 #include "FingerboardDesign.h"
@@ -26,6 +30,7 @@
 #include "PianoTonarium.h"
 #include "PianoTonariumMainPage.h"
 #include "PromoMenuBar.h"
+#include "Transposer.h"
 #include "TuneButton.h"
 #include "TunerBasePage.h"
 #include "TunersCommonPanel.h"
@@ -428,6 +433,54 @@ QVector<SlideScenes::Scene> tunersScenes()
     return scenes;
 }
 
+std::unique_ptr<QMMusic::ChordsWindow> chordsWindow(const QString& chord)
+{
+    auto window = std::make_unique<QMMusic::ChordsWindow>();
+    window->resize(kPageSize);
+    window->show();
+    window->page()->setCurrentChord(chord);
+    settle();
+    return window;
+}
+
+QVector<SlideScenes::Scene> chordsScenes()
+{
+    QVector<SlideScenes::Scene> scenes;
+    {
+        auto window = chordsWindow(QStringLiteral("C"));
+        QMMusic::ChordsMainPage* page = window->page();
+        scenes.append({ grab(window.get()),
+            { geometryIn(page->chordsPanel(), window.get()), geometryIn(page->chordView(), window.get()) } });
+    }
+    {
+        auto window = chordsWindow(QStringLiteral("Bm"));
+        QMMusic::ChordsMainPage* page = window->page();
+        const QStringList song = { QStringLiteral("B\nm"), QStringLiteral("E\nm"), QStringLiteral("F #\n7"),
+            QStringLiteral("A\n7"), QStringLiteral("D\n"), QStringLiteral("G\n") };
+        page->setCurrentTransposerChords(song);
+        settle();
+        scenes.append({ grab(window.get()), { geometryIn(page->transposer(), window.get()) } });
+    }
+    {
+        auto window = chordsWindow(QStringLiteral("G"));
+        window->slotShowInstrument(QStringLiteral("ukulele"));
+        settle();
+        auto* button = window->page()->findChild<QPushButton*>(QStringLiteral("InstrumentButton"));
+        QMenu* menu = window->instrumentMenu();
+        menu->ensurePolished();
+        menu->resize(menu->sizeHint());
+        const QRectF place = geometryIn(button, window.get());
+        QImage picture = grab(window.get());
+        QPainter painter(&picture);
+        const qreal scale = picture.width() / qreal(window->width());
+        painter.scale(scale, scale);
+        painter.drawImage(QPointF(place.left(), place.bottom() + 2), menu->grab().toImage());
+        painter.end();
+        scenes.append({ picture, { place } });
+    }
+    return scenes;
+}
+
 } // namespace
 
 QVector<SlideScenes::Scene> SlideScenes::render(const QString& instrumentKey)
@@ -436,6 +489,8 @@ QVector<SlideScenes::Scene> SlideScenes::render(const QString& instrumentKey)
         return metronomeScenes();
     if (instrumentKey == QLatin1String("Tuners"))
         return tunersScenes();
+    if (instrumentKey == QLatin1String("Chords"))
+        return chordsScenes();
     // The piano has no training: its two scenes stay empty.
     const bool trains = instrumentKey != QLatin1String("Piano");
     return { welcome(instrumentKey), findOnNeck(instrumentKey), staffAndSigns(instrumentKey), hearNotes(instrumentKey),

@@ -1,7 +1,7 @@
 // slidegen: renders the introduction slides from a program's own widgets,
 // with captions in each slide language, into a folder; given a second
 // folder, also the screenshots of the program's store listing. A third
-// argument names the instrument ("Ukulele"), "Metronome" or "Tuners"; the guitar by
+// argument names the instrument ("Ukulele"), "Metronome", "Tuners" or "Chords"; the guitar by
 // default.
 #include "App.h"
 #include "AppStyleSheet.h"
@@ -19,7 +19,8 @@ int main(int argc, char* argv[])
         return 1;
     const QString outputDir = QString::fromLocal8Bit(argv[1]);
     const QString instrument = argc > 3 ? QString::fromLocal8Bit(argv[3]) : QStringLiteral("Guitar");
-    const bool wholeProgram = instrument == QLatin1String("Metronome") || instrument == QLatin1String("Tuners");
+    const bool wholeProgram = instrument == QLatin1String("Metronome") || instrument == QLatin1String("Tuners")
+        || instrument == QLatin1String("Chords");
     const QString program = wholeProgram ? instrument : instrument + QStringLiteral("Tonarium");
 
     // The application object makes the per-user folders; a throw-away home
