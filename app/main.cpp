@@ -2,6 +2,7 @@
 #include "AppStyleSheet.h"
 #include "App_mac.h"
 #include "BaseMainPage.h"
+#include "ChordPictures.h"
 #include "CommandLine.h"
 #include "CorvaneProducts.h"
 #include "CorvaneSite.h"
@@ -72,7 +73,7 @@ int main(int argc, char* argv[])
     app.setPromotedLink(QLatin1String(QMWidgets::CorvaneSite::webHost) + QStringLiteral("/apps/")
         + QStringLiteral(QM_PROGRAM).toLower() + QLatin1Char('/'));
     QCoreApplication::setOrganizationDomain(QLatin1String(QMWidgets::CorvaneSite::domain));
-    app.setResourceOffset(QStringLiteral("libs/cpp/QMMusic/"));
+    app.setResourceOffset(QMMusic::ChordPictures::libraryOffset());
     app.setStyleSheet(QMWidgets::AppStyleSheet::text());
     app.setCorvaneLinks();
 

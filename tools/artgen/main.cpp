@@ -1,6 +1,7 @@
 // artgen: draws the program's pictures and synthesises its samples.
 #include "ArtWriter.h"
 #include "ChordArt.h"
+#include "ChordPageArt.h"
 #include "DesktopIconArt.h"
 #include "FingerboardArt.h"
 #include "FingerboardDesign.h"
@@ -53,6 +54,7 @@ int main(int argc, char* argv[])
     MetronomeArt::generate(writer);
     TunerExplorerArt::generate(writer, TunerInstrumentArt::generate(writer));
     ChordArt::generate(writer);
+    ChordPageArt::generate(writer);
     FrameArt::generate(writer);
     GuitarSampleSynth::generate(writer);
     InstrumentSampleSynth::generate(writer);

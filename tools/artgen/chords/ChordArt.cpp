@@ -353,6 +353,8 @@ QImage ChordArt::keyboard(const QString& code, bool tablature)
 void ChordArt::generate(ArtWriter& writer)
 {
     const QString group = QStringLiteral("Chords");
+    // Where the programs' views look: below the library's resource offset.
+    const QString offset = QMMusic::ChordPictures::libraryOffset();
     for (const QString& key : ChordTable::keys()) {
         const ChordTable& table = ChordTable::forKey(key);
         QSet<QString> done;
@@ -364,11 +366,13 @@ void ChordArt::generate(ArtWriter& writer)
             done.insert(name);
             if (table.isPiano) {
                 const QString code = QMMusic::ChordPictures::pianoCode(tab);
-                writer.addPicture(name, saved(pianoPhoto(code)), kPhotoQuality, group);
-                writer.addPicture(QMMusic::ChordPictures::keysName(tab, false), keyboard(code, false), -1, group);
-                writer.addPicture(QMMusic::ChordPictures::keysName(tab, true), keyboard(code, true), -1, group);
+                writer.addPicture(offset + name, saved(pianoPhoto(code)), kPhotoQuality, group);
+                writer.addPicture(
+                    offset + QMMusic::ChordPictures::keysName(tab, false), keyboard(code, false), -1, group);
+                writer.addPicture(
+                    offset + QMMusic::ChordPictures::keysName(tab, true), keyboard(code, true), -1, group);
             } else {
-                writer.addPicture(name, saved(photo(table, tab)), kPhotoQuality, group);
+                writer.addPicture(offset + name, saved(photo(table, tab)), kPhotoQuality, group);
             }
         }
     }

@@ -5,6 +5,20 @@ namespace QMMusic {
 namespace {
 
 constexpr char kSheet[] = R"(
+QFrame#ChordsWindow, QFrame#MainPage {
+    background: rgb(30, 28, 26);
+}
+QPushButton#InstrumentButton {
+    font: bold 14px;
+    color: rgb(243, 233, 210);
+    padding: 4px 14px;
+    border-radius: 6px;
+    border: 1px solid rgb(120, 70, 40);
+    background: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 rgb(88, 84, 80), stop: 1 rgb(34, 32, 30));
+}
+QPushButton#InstrumentButton:hover {
+    background: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 rgb(196, 120, 72), stop: 1 rgb(120, 62, 32));
+}
 QPushButton#PanelButton {
     min-width: <!PANEL_BUTTON_MINWIDTH!>;
     min-height: <!PANEL_BUTTON_MINHEIGHT!>;
@@ -44,10 +58,13 @@ QPushButton#PlayButton {
     min-height: <!PlayButtonSize!>;
     max-width: <!PlayButtonSize!>;
     max-height: <!PlayButtonSize!>;
-    border-image: url(:/playbutton.png);
+    border-image: url(:/Play.png);
+}
+QPushButton#PlayButton:hover {
+    border-image: url(:/Play_hvr.png);
 }
 QPushButton#PlayButton:pressed {
-    border-image: url(:/playbutton_pressed.png);
+    border-image: url(:/Play_prs.png);
 }
 QFrame#InstrumentLabel_guitar { border-image: url(:/guitar.png); }
 QFrame#InstrumentLabel_piano { border-image: url(:/piano.png); }

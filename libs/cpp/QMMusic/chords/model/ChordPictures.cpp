@@ -2,6 +2,11 @@
 
 namespace QMMusic {
 
+QString ChordPictures::libraryOffset()
+{
+    return QStringLiteral("libs/cpp/QMMusic/");
+}
+
 QString ChordPictures::folder()
 {
     return QStringLiteral("_resources/imgs/Chords/");

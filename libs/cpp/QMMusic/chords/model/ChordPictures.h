@@ -10,6 +10,9 @@ namespace QMMusic {
 class ChordPictures
 {
 public:
+    // The resource offset that the programs set (App::setResourceOffset):
+    // the chord pictures lie in the resources below it.
+    static QString libraryOffset();
     // The folder of the pictures, after ":/" and the resource offset.
     static QString folder();
     // The piano's 24 keys folded onto the 12 pitch classes C to B: "0" where
