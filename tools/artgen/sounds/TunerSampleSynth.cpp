@@ -35,13 +35,13 @@ InstrumentSampleSynth::Instrument bowed(const BowedStringSynth::Parameters& soun
 }
 
 // The banjo's drum head outshines the fundamental of a low string, which
-// soon falls below hearing; a tuner's banjo rings longer, so that there is a
-// fundamental to tune to.
+// soon falls below hearing; a tuner's banjo rings half as long again, so that
+// there is a fundamental to tune to.
 InstrumentSampleSynth::Instrument banjo()
 {
     InstrumentSampleSynth::Instrument instrument = finderInstrument("Banjo");
-    instrument.plucked.decayLowSeconds = 4.0;
-    instrument.plucked.decayHighSeconds = 2.5;
+    instrument.plucked.decayLowSeconds = 3.0;
+    instrument.plucked.decayHighSeconds = 1.8;
     return instrument;
 }
 
