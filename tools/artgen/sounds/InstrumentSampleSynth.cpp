@@ -96,8 +96,9 @@ PluckedStringSynth::Parameters banjo()
     return p;
 }
 
-// Pairs of steel strings struck together with a pick: bright, and the two
-// strings of a course, a cent and a half apart either way, shimmer.
+// Pairs of steel strings struck together with a pick: bright. The two
+// strings of a course are tuned in unison: the open strings' samples are also
+// the mandolin tuner's reference at 440, which must hold one pitch.
 PluckedStringSynth::Parameters mandolin()
 {
     PluckedStringSynth::Parameters p;
@@ -109,7 +110,6 @@ PluckedStringSynth::Parameters mandolin()
     p.loopFilterTap = 0.1;
     p.body = { { 330.0, 10.0, 0.4 }, { 580.0, 12.0, 0.25 } };
     p.doubleCourse = true;
-    p.courseDetuneCents = 1.5;
     return p;
 }
 

@@ -2,6 +2,9 @@
 
 #include "GuitarSampleSynth.h"
 #include "NoteSampleEncoder.h"
+#include "NoteSpelling.h"
+
+#include <QSet>
 
 namespace {
 
@@ -32,22 +35,13 @@ InstrumentSampleSynth::Instrument bowed(const BowedStringSynth::Parameters& soun
 }
 
 // The banjo's drum head outshines the fundamental of a low string, which
-// soon falls below hearing; a tuner's banjo rings longer, so that there is a
-// fundamental to tune to.
+// soon falls below hearing; a tuner's banjo rings half as long again, so that
+// there is a fundamental to tune to.
 InstrumentSampleSynth::Instrument banjo()
 {
     InstrumentSampleSynth::Instrument instrument = finderInstrument("Banjo");
-    instrument.plucked.decayLowSeconds = 4.0;
-    instrument.plucked.decayHighSeconds = 2.5;
-    return instrument;
-}
-
-// A tuner's reference must not beat: the mandolin's course rings as one
-// string in tune.
-InstrumentSampleSynth::Instrument mandolin()
-{
-    InstrumentSampleSynth::Instrument instrument = finderInstrument("Mandolin");
-    instrument.plucked.doubleCourse = false;
+    instrument.plucked.decayLowSeconds = 3.0;
+    instrument.plucked.decayHighSeconds = 1.8;
     return instrument;
 }
 
@@ -99,6 +93,20 @@ BowedStringSynth::Parameters doubleBass()
     return p;
 }
 
+// The finders' samples, "<key>_440_<stem>.mp3": at 440 they bear the names
+// of the tuners' files of the same strings, and are those files.
+QSet<QString> finderSamples()
+{
+    QSet<QString> names;
+    for (int note = GuitarSampleSynth::LowestMidiNote; note <= GuitarSampleSynth::HighestMidiNote; ++note)
+        names.insert(QMMusic::NoteSpelling::sampleFileName(QStringLiteral("Guitar"), NoteSampleEncoder::stem(note)));
+    for (const InstrumentSampleSynth::Instrument& instrument : InstrumentSampleSynth::instruments()) {
+        for (int note = instrument.lowestMidiNote; note <= instrument.highestMidiNote; ++note)
+            names.insert(QMMusic::NoteSpelling::sampleFileName(instrument.key, NoteSampleEncoder::stem(note)));
+    }
+    return names;
+}
+
 } // namespace
 
 QVector<int> TunerSampleSynth::concertPitches()
@@ -119,7 +127,7 @@ QVector<TunerSampleSynth::Tuner> TunerSampleSynth::tuners()
         { QStringLiteral("cello"), notes("C2 G2 D3 A3"), bowed(cello()) },
         { QStringLiteral("doublebass"), notes("E1 A1 D2 G2"), bowed(doubleBass()) },
         { QStringLiteral("balalaika"), notes("E4 A4"), finderInstrument("Balalaika") },
-        { QStringLiteral("mandolin"), notes("G3 D4 A4 E5"), mandolin() },
+        { QStringLiteral("mandolin"), notes("G3 D4 A4 E5"), finderInstrument("Mandolin") },
         { QStringLiteral("dombra"), notes("D3 G3"), plucked(dombra()) },
     };
 }
@@ -150,11 +158,15 @@ QVector<float> TunerSampleSynth::synthesise(const Tuner& tuner, const QString& n
 
 void TunerSampleSynth::generate(ArtWriter& writer)
 {
+    const QSet<QString> shared = finderSamples();
     NoteSampleEncoder encoder(writer);
     for (const Tuner& tuner : tuners()) {
         for (const QString& note : tuner.notes) {
-            for (int pitch : concertPitches())
-                encoder.encode(fileName(tuner.prefix, pitch, note), synthesise(tuner, note, pitch));
+            for (int pitch : concertPitches()) {
+                const QString name = fileName(tuner.prefix, pitch, note);
+                if (!shared.contains(name))
+                    encoder.encode(name, synthesise(tuner, note, pitch));
+            }
         }
     }
 }

@@ -14,6 +14,8 @@ class ArtWriter;
 // second overlaps the sound still ringing. The fretted instruments have the
 // finders' plucked strings; violin (whose files the viola plays too), cello and
 // double bass a bowed string held without vibrato; the dombra a warm gut string.
+// At 440 the guitar's, ukulele's, banjo's, balalaika's and mandolin's strings
+// are the finders' samples of those names, 2.5 s long, which stay as they are.
 class TunerSampleSynth
 {
 public:
@@ -36,5 +38,6 @@ public:
     static int midiNote(const QString& note);
     static QString fileName(const QString& prefix, int concertPitch, const QString& note);
     static QVector<float> synthesise(const Tuner& tuner, const QString& note, int concertPitch);
+    // Writes every file but those the finders write.
     static void generate(ArtWriter& writer);
 };

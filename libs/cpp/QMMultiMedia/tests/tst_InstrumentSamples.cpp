@@ -122,7 +122,7 @@ void tst_InstrumentSamples::sample_data()
         { "bass", 28, 63, Plucked, 2.0, 0.0, 6.0, 28.0 }, // E1 to D#4
         { "balalaika", 64, 88, Plucked, 2.0, 0.0, 25.0, 55.0 }, // E4 to E6
         { "banjo", 50, 85, Plucked, 2.0, 0.0, 36.0, 75.0 }, // D3 to C#6
-        { "mandolin", 55, 93, Plucked, 2.0, 3.0, 25.0, 52.0 }, // G3 to A6
+        { "mandolin", 55, 93, Plucked, 2.0, 0.0, 25.0, 52.0 }, // G3 to A6
         { "piano", 21, 108, Struck, 2.0, 0.0, 0.0, 0.0 }, // A0 to C8
     };
     static const char* const names[12] = { "C", "Cd", "D", "Dd", "E", "F", "Fd", "G", "Gd", "A", "Ad", "B" };
