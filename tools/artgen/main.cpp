@@ -1,5 +1,6 @@
 // artgen: draws the program's pictures and synthesises its samples.
 #include "ArtWriter.h"
+#include "CoverArt.h"
 #include "DesktopIconArt.h"
 #include "FingerboardArt.h"
 #include "FingerboardDesign.h"
@@ -46,6 +47,7 @@ int main(int argc, char* argv[])
     PageArt::generate(writer);
     InstrumentSideArt::generate(writer);
     TrainerArt::generate(writer);
+    CoverArt::generate(writer);
     MetronomeArt::generate(writer);
     FrameArt::generate(writer);
     GuitarSampleSynth::generate(writer);
