@@ -65,6 +65,10 @@ void AudioPlayer::play(const QString& path, bool loop)
     }
     m_player->stop();
     m_player->play();
+    // A file that did not open has no player to end: it ends at once, so
+    // that a list walking on this player goes on past it.
+    if (!loop && m_player->duration() == 0)
+        QMetaObject::invokeMethod(this, &AudioPlayer::finished, Qt::QueuedConnection);
 }
 
 void AudioPlayer::loopedPlay()

@@ -21,7 +21,8 @@ public:
 
     void play();
     // Loads the file and plays it from the start; `loop` plays it again and
-    // again, each pass armed for the file's duration, until stop().
+    // again, each pass armed for the file's duration, until stop(). Played
+    // once, a file that does not open gives finished() at once.
     void play(const QString& path, bool loop);
     void stop();
     void pause();
