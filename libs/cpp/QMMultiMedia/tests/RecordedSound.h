@@ -87,6 +87,23 @@ inline Sound readWithFfmpeg(const QString& path)
     return sound;
 }
 
+// Writes a mono 440 Hz tone in one of libsndfile's formats (SF_FORMAT_*).
+inline bool writeWithSndfile(const QString& path, int format, double seconds, int rate = 48000)
+{
+    SF_INFO info = {};
+    info.samplerate = rate;
+    info.channels = 1;
+    info.format = format;
+    SNDFILE* file = sf_open(QFile::encodeName(path).constData(), SFM_WRITE, &info);
+    if (!file)
+        return false;
+    QVector<float> samples(static_cast<int>(seconds * rate));
+    for (int n = 0; n < samples.size(); ++n)
+        samples[n] = 0.5f * static_cast<float>(std::sin(2.0 * M_PI * 440.0 * n / rate));
+    const bool written = sf_writef_float(file, samples.constData(), samples.size()) == samples.size();
+    return sf_close(file) == 0 && written;
+}
+
 inline Sound read(const QString& path)
 {
     return path.endsWith(QLatin1String(".m4a")) ? readWithFfmpeg(path) : readWithSndfile(path);

@@ -1,4 +1,5 @@
 #include "PlayListModel.h"
+#include "RecordedSound.h"
 #include "TestSounds.h"
 
 #include <QAbstractItemModelTester>
@@ -33,6 +34,11 @@ void tst_PlayListModel::initTestCase()
     QVERIFY(m_dir.isValid());
     QVERIFY(TestSounds::writeSineWave(path(QStringLiteral("two.wav")), 2.5, 440.0, 8000));
     QVERIFY(TestSounds::writeSineWave(path(QStringLiteral("one.wav")), 1.0, 440.0, 8000, 2));
+    QVERIFY(RecordedSound::writeWithSndfile(path(QStringLiteral("tone.flac")), SF_FORMAT_FLAC | SF_FORMAT_PCM_16, 3.2));
+    QVERIFY(RecordedSound::writeWithSndfile(path(QStringLiteral("tone.ogg")), SF_FORMAT_OGG | SF_FORMAT_VORBIS, 2.1));
+    QVERIFY(RecordedSound::writeWithSndfile(path(QStringLiteral("tone.opus")), SF_FORMAT_OGG | SF_FORMAT_OPUS, 1.5));
+    QVERIFY(RecordedSound::writeWithSndfile(path(QStringLiteral("tone.aiff")), SF_FORMAT_AIFF | SF_FORMAT_PCM_24, 4.0));
+    QVERIFY(RecordedSound::writeWithSndfile(path(QStringLiteral("tone.caf")), SF_FORMAT_CAF | SF_FORMAT_PCM_16, 0.5));
     QFile damaged(path(QStringLiteral("damaged.wav")));
     QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.write("RIFF\x10\0\0\0WAVEjunk") > 0);
     damaged.close();
@@ -48,6 +54,11 @@ void tst_PlayListModel::roles_data()
 
     QTest::newRow("two and a half seconds") << "two.wav" << QTime(0, 0, 2);
     QTest::newRow("one second in stereo") << "one.wav" << QTime(0, 0, 1);
+    QTest::newRow("FLAC") << "tone.flac" << QTime(0, 0, 3);
+    QTest::newRow("Ogg Vorbis") << "tone.ogg" << QTime(0, 0, 2);
+    QTest::newRow("Opus") << "tone.opus" << QTime(0, 0, 1);
+    QTest::newRow("24-bit AIFF") << "tone.aiff" << QTime(0, 0, 4);
+    QTest::newRow("half a second of CAF") << "tone.caf" << QTime(0, 0, 0);
     QTest::newRow("damaged file") << "damaged.wav" << QTime(0, 0, 0);
     QTest::newRow("zero-length file") << "empty.mp3" << QTime(0, 0, 0);
     QTest::newRow("missing file") << "missing.wav" << QTime(0, 0, 0);
