@@ -42,6 +42,7 @@ AudioPlayer* AudioPlayer::instance()
 AudioPlayer::AudioPlayer()
     : m_player(new NativeAudioPlayer(this))
 {
+    m_player->setWholeFiles(true);
     connect(m_player, &NativeAudioPlayer::finished, this, &AudioPlayer::finished);
     connect(m_player, &NativeAudioPlayer::positionChanged, this, &AudioPlayer::positionChanged);
 }

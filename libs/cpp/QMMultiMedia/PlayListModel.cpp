@@ -13,6 +13,7 @@ PlayListModel::PlayListModel(QObject* parent)
     : QAbstractListModel(parent)
     , m_player(new NativeAudioPlayer(this))
 {
+    m_player->setWholeFiles(true);
 }
 
 void PlayListModel::setPlayList(const QDir& dir, const QStringList& nameFilters)

@@ -39,6 +39,7 @@ void tst_PlayListModel::initTestCase()
     QVERIFY(RecordedSound::writeWithSndfile(path(QStringLiteral("tone.opus")), SF_FORMAT_OGG | SF_FORMAT_OPUS, 1.5));
     QVERIFY(RecordedSound::writeWithSndfile(path(QStringLiteral("tone.aiff")), SF_FORMAT_AIFF | SF_FORMAT_PCM_24, 4.0));
     QVERIFY(RecordedSound::writeWithSndfile(path(QStringLiteral("tone.caf")), SF_FORMAT_CAF | SF_FORMAT_PCM_16, 0.5));
+    QVERIFY(TestSounds::writeSineWave(path(QStringLiteral("long.wav")), 61.0, 440.0, 8000));
     QFile damaged(path(QStringLiteral("damaged.wav")));
     QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.write("RIFF\x10\0\0\0WAVEjunk") > 0);
     damaged.close();
@@ -54,6 +55,7 @@ void tst_PlayListModel::roles_data()
 
     QTest::newRow("two and a half seconds") << "two.wav" << QTime(0, 0, 2);
     QTest::newRow("one second in stereo") << "one.wav" << QTime(0, 0, 1);
+    QTest::newRow("longer than any sample") << "long.wav" << QTime(0, 1, 1);
     QTest::newRow("FLAC") << "tone.flac" << QTime(0, 0, 3);
     QTest::newRow("Ogg Vorbis") << "tone.ogg" << QTime(0, 0, 2);
     QTest::newRow("Opus") << "tone.opus" << QTime(0, 0, 1);
@@ -111,7 +113,7 @@ void tst_PlayListModel::folderWithNameFilters()
     QStringList names;
     for (int row = 0; row < model.rowCount(); ++row)
         names.append(model.data(model.index(row)).toString());
-    QCOMPARE(names, (QStringList { "damaged.wav", "one.wav", "two.wav" }));
+    QCOMPARE(names, (QStringList { "damaged.wav", "long.wav", "one.wav", "two.wav" }));
 }
 
 void tst_PlayListModel::editing()
