@@ -139,7 +139,7 @@ void bench_recording::writerCpu()
             = RecordingWriter::create(m_dir.filePath(QStringLiteral("writer") + suffix), stereo48k(codec));
         QVERIFY(writer);
         for (int i = 0; i < 500; ++i)
-            QVERIFY(writer->write(samples.constData(), batch));
+            QCOMPARE(writer->write(samples.constData(), batch), qint64(batch));
         writer->close();
     }
 }
@@ -162,7 +162,7 @@ void bench_recording::memoryOfTenMinutes()
     QVERIFY(writer);
     double afterOneMinute = 0.0;
     for (int i = 0; i < 10 * 3000; ++i) {
-        QVERIFY(writer->write(samples.constData(), batch));
+        QCOMPARE(writer->write(samples.constData(), batch), qint64(batch));
         if (i == 3000)
             afterOneMinute = residentKilobytes();
     }

@@ -87,22 +87,23 @@ bool AacRecordingWriter::setUp(const QString& path, const MAudioFormat& format)
     return true;
 }
 
-bool AacRecordingWriter::write(const qint16* samples, qint64 frames)
+qint64 AacRecordingWriter::write(const qint16* samples, qint64 frames)
 {
     if (!m_encoder || m_failed)
-        return false;
+        return 0;
     const int frameSize = m_encoder->frame_size;
     for (qint64 n = 0; n < frames * m_channels; ++n) {
         m_pending.append(samples[n] / 32768.0f);
         if (m_pending.size() < frameSize * m_channels)
             continue;
         if (!encodeFrame(m_frame)) {
+            // The frame that failed is lost with the ones before it in its encoder frame.
             m_failed = true;
-            return false;
+            return qMax<qint64>(0, (n + 1) / m_channels - frameSize);
         }
         m_pending.clear();
     }
-    return true;
+    return frames;
 }
 
 // Encodes the pending samples through `frame` (null drains the encoder) and

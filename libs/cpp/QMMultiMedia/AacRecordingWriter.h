@@ -14,7 +14,9 @@ namespace QMMultiMedia {
 
 // AAC in an MPEG-4 audio file (.m4a) through FFmpeg's encoder. The file is
 // written in fragments of half a second, so that what was written before
-// a full disk or a crash stays readable.
+// a full disk or a crash stays readable. Such a file has no edit list: it
+// reads back with the encoder's 1024 samples of priming in front and the
+// last frame padded to 1024 samples, up to 2047 samples more than recorded.
 class AacRecordingWriter : public RecordingWriter
 {
 public:
@@ -22,7 +24,7 @@ public:
 
     static std::unique_ptr<RecordingWriter> open(const QString& path, const MAudioFormat& format);
 
-    bool write(const qint16* samples, qint64 frames) override;
+    qint64 write(const qint16* samples, qint64 frames) override;
     void close() override;
 
     // The encoder's coder for a quality of 0 to 127: the fast one below 64.

@@ -196,10 +196,10 @@ void NativeAudioRecorderInternal::writeFrames(const QVector<qint16>& samples)
     if (!m_writer || samples.isEmpty())
         return;
     const qint64 frames = samples.size() / m_recordingFormat.channels;
-    if (m_writer->write(samples.constData(), frames)) {
-        m_framesWritten += frames;
+    const qint64 written = m_writer->write(samples.constData(), frames);
+    m_framesWritten += written;
+    if (written == frames)
         return;
-    }
     // The disk is full: the file keeps what it has and the recording ends.
     qWarning() << "Recording stopped: the file cannot grow";
     QMetaObject::invokeMethod(this, &NativeAudioRecorderInternal::slotStop, Qt::QueuedConnection);

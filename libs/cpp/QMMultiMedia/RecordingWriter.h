@@ -22,10 +22,10 @@ public:
     // when the file cannot be made.
     static std::unique_ptr<RecordingWriter> create(const QString& path, const MAudioFormat& format);
 
-    // Appends interleaved 16-bit frames in the format's channels. False when
-    // they could not all be written (the disk is full): the file stays
-    // readable up to what was written, and the writer takes nothing more.
-    virtual bool write(const qint16* samples, qint64 frames) = 0;
+    // Appends interleaved 16-bit frames in the format's channels and returns
+    // how many the file took. Fewer than given means the disk is full: the
+    // file stays readable up to what it took, and the writer takes nothing more.
+    virtual qint64 write(const qint16* samples, qint64 frames) = 0;
     // Completes the file and closes it; later calls do nothing.
     virtual void close() = 0;
 };

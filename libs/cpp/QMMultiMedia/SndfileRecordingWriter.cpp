@@ -40,13 +40,14 @@ std::unique_ptr<RecordingWriter> SndfileRecordingWriter::open(const QString& pat
     return writer;
 }
 
-bool SndfileRecordingWriter::write(const qint16* samples, qint64 frames)
+qint64 SndfileRecordingWriter::write(const qint16* samples, qint64 frames)
 {
     if (!m_file || m_failed)
-        return false;
-    if (sf_writef_short(m_file, samples, frames) != frames)
+        return 0;
+    const sf_count_t written = sf_writef_short(m_file, samples, frames);
+    if (written != frames)
         m_failed = true;
-    return !m_failed;
+    return qMax<sf_count_t>(0, written);
 }
 
 void SndfileRecordingWriter::close()

