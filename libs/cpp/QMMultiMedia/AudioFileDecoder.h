@@ -15,8 +15,9 @@ struct DecodedSound
     qint64 frames() const { return channels > 0 ? samples.size() / channels : 0; }
 };
 
-// Decodes an mp3 (libmpg123) or wave file (libsndfile) completely into
-// memory, at its exact gapless length.
+// Decodes an mp3 (libmpg123) or any file that libsndfile reads (wave, AIFF,
+// CAF, FLAC, Ogg Vorbis, Opus) completely into memory, at its exact gapless
+// length.
 //
 // Samples are short: anything longer than MaximumSeconds, larger than
 // MaximumFileBytes or with more than MaximumChannels is refused before it is
