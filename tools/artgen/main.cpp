@@ -2,6 +2,7 @@
 #include "ArtWriter.h"
 #include "ChordArt.h"
 #include "ChordPageArt.h"
+#include "CoverArt.h"
 #include "DesktopIconArt.h"
 #include "FingerboardArt.h"
 #include "FingerboardDesign.h"
@@ -51,6 +52,7 @@ int main(int argc, char* argv[])
     PageArt::generate(writer);
     InstrumentSideArt::generate(writer);
     TrainerArt::generate(writer);
+    CoverArt::generate(writer);
     MetronomeArt::generate(writer);
     TunerExplorerArt::generate(writer, TunerInstrumentArt::generate(writer));
     ChordArt::generate(writer);

@@ -36,9 +36,9 @@ bool initialiseMpg123()
 }
 
 // The most interleaved samples a file of this format may decode to.
-qint64 sampleCeiling(long rate, int channels)
+qint64 sampleCeiling(long rate, int channels, double maximumSeconds)
 {
-    return static_cast<qint64>(AudioFileDecoder::MaximumSeconds * rate) * channels;
+    return static_cast<qint64>(maximumSeconds * rate) * channels;
 }
 
 bool plausibleFormat(long rate, int channels)
@@ -51,13 +51,18 @@ bool plausibleFormat(long rate, int channels)
 
 bool AudioFileDecoder::decode(const QString& path, DecodedSound* sound)
 {
+    return decode(path, sound, MaximumSeconds);
+}
+
+bool AudioFileDecoder::decode(const QString& path, DecodedSound* sound, double maximumSeconds)
+{
     *sound = DecodedSound();
     const QFileInfo info(path);
     if (!info.isFile() || info.size() > MaximumFileBytes)
         return false;
     const bool ok = QFileInfo(path).suffix().compare(QLatin1String("mp3"), Qt::CaseInsensitive) == 0
-        ? decodeMp3(path, sound)
-        : decodeWithSndfile(path, sound);
+        ? decodeMp3(path, sound, maximumSeconds)
+        : decodeWithSndfile(path, sound, maximumSeconds);
     if (!ok || sound->frames() == 0) {
         *sound = DecodedSound();
         return false;
@@ -65,7 +70,7 @@ bool AudioFileDecoder::decode(const QString& path, DecodedSound* sound)
     return true;
 }
 
-bool AudioFileDecoder::decodeMp3(const QString& path, DecodedSound* sound)
+bool AudioFileDecoder::decodeMp3(const QString& path, DecodedSound* sound, double maximumSeconds)
 {
     if (!initialiseMpg123())
         return false;
@@ -95,7 +100,7 @@ bool AudioFileDecoder::decodeMp3(const QString& path, DecodedSound* sound)
 
     // The length comes from the file's own header and may be anything: it
     // only sizes the first allocation, within the ceiling.
-    const qint64 ceiling = sampleCeiling(rate, channels);
+    const qint64 ceiling = sampleCeiling(rate, channels, maximumSeconds);
     const qint64 expected = static_cast<qint64>(mpg123_length(handle.get())) * channels;
     if (expected > 0)
         sound->samples.reserve(static_cast<int>(qMin(expected, ceiling)));
@@ -157,7 +162,7 @@ struct MemoryFile
 
 } // namespace
 
-bool AudioFileDecoder::decodeWithSndfile(const QString& path, DecodedSound* sound)
+bool AudioFileDecoder::decodeWithSndfile(const QString& path, DecodedSound* sound, double maximumSeconds)
 {
     QFile source(path);
     if (!source.open(QIODevice::ReadOnly))
@@ -168,7 +173,7 @@ bool AudioFileDecoder::decodeWithSndfile(const QString& path, DecodedSound* soun
     SF_INFO info = {};
     std::unique_ptr<SNDFILE, SndfileCloser> file(sf_open_virtual(&io, SFM_READ, &info, &memory));
     if (!file || !plausibleFormat(info.samplerate, info.channels) || info.frames <= 0
-        || info.frames > sampleCeiling(info.samplerate, info.channels) / info.channels)
+        || info.frames > sampleCeiling(info.samplerate, info.channels, maximumSeconds) / info.channels)
         return false;
     sound->samples.resize(static_cast<int>(info.frames * info.channels));
     const sf_count_t read = sf_readf_float(file.get(), sound->samples.data(), info.frames);

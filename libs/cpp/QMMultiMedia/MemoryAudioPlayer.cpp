@@ -31,6 +31,11 @@ bool MemoryAudioPlayer::load(const QString& path)
     return DecodedSoundCache::shared().decode(path, &m_sound);
 }
 
+bool MemoryAudioPlayer::loadWholeFile(const QString& path)
+{
+    return AudioFileDecoder::decode(path, &m_sound, AudioFileDecoder::MaximumWholeFileSeconds);
+}
+
 void MemoryAudioPlayer::setVolume(float volume)
 {
     m_volume = volume;

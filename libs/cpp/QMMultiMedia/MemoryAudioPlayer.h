@@ -29,6 +29,8 @@ public:
 
     // Decodes the whole file; false when it cannot be read.
     bool load(const QString& path);
+    // The same for a whole music file: longer, and not kept in the samples' cache.
+    bool loadWholeFile(const QString& path);
 
     void setVolume(float volume);
     void setPan(float pan);

@@ -97,6 +97,11 @@ void NativeAudioPlayer::setMuted(bool muted)
     }
 }
 
+void NativeAudioPlayer::setWholeFiles(bool on)
+{
+    m_internal->setWholeFiles(on);
+}
+
 void NativeAudioPlayer::setBalance(float balance)
 {
     m_internal->setBalance(balance);

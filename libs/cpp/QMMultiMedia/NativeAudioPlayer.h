@@ -39,6 +39,9 @@ public:
     bool isMuted() const;
     void setMuted(bool muted);
     void setBalance(float balance);
+    // Plays whole music files, up to a quarter of an hour, instead of short
+    // samples; they bypass the samples' cache. From the next setMedia on.
+    void setWholeFiles(bool on);
 
 signals:
     void finished();

@@ -33,7 +33,7 @@ void NativeAudioPlayerInternal::setMedia(const QString& path)
         releasePlayer();
     }
     auto player = std::make_unique<MemoryAudioPlayer>();
-    if (!player->load(path)) {
+    if (!(m_wholeFiles ? player->loadWholeFile(path) : player->load(path))) {
         // Nothing is kept of a file that cannot be played: no buffer, no
         // stream, no timer; only the log says why it stays silent.
         qWarning().noquote() << "Cannot play" << path;
@@ -130,6 +130,11 @@ void NativeAudioPlayerInternal::setBalance(float balance)
     m_balance = balance;
     if (m_player)
         m_player->setPan(balance);
+}
+
+void NativeAudioPlayerInternal::setWholeFiles(bool on)
+{
+    m_wholeFiles = on;
 }
 
 void NativeAudioPlayerInternal::slotPositionChanged()

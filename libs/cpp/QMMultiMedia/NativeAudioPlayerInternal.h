@@ -35,6 +35,8 @@ public:
     void setVolume(int percent);
     int volume() const;
     void setBalance(float balance);
+    // Whole music files instead of short samples, from the next setMedia on.
+    void setWholeFiles(bool on);
 
 signals:
     void finished();
@@ -59,6 +61,7 @@ private:
     QTimer m_positionTimer;
     int m_state = Stopped;
     double m_volume = 0.5;
+    bool m_wholeFiles = false;
 };
 
 } // namespace QMMultiMedia
