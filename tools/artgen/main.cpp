@@ -1,5 +1,6 @@
 // artgen: draws the program's pictures and synthesises its samples.
 #include "ArtWriter.h"
+#include "CommunityArt.h"
 #include "DesktopIconArt.h"
 #include "FingerboardArt.h"
 #include "FingerboardDesign.h"
@@ -48,6 +49,7 @@ int main(int argc, char* argv[])
     TrainerArt::generate(writer);
     MetronomeArt::generate(writer);
     FrameArt::generate(writer);
+    CommunityArt::generate(writer);
     GuitarSampleSynth::generate(writer);
     InstrumentSampleSynth::generate(writer);
     MetronomeSoundSynth::generate(writer);
