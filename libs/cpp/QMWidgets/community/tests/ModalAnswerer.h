@@ -7,13 +7,15 @@
 #include <QWidget>
 
 // Answers the next modal window that the code under test opens (its exec()
-// blocks the test's own call): notes its class and texts, then clicks the
-// visible button with the given text, or closes it when none is given.
+// blocks the test's own call), of the given class if one is named: notes
+// its class and texts, then clicks the visible button with the given text,
+// or closes it when none is given.
 class ModalAnswerer : public QObject
 {
 public:
-    explicit ModalAnswerer(const QString& buttonText = QString())
+    explicit ModalAnswerer(const QString& buttonText = QString(), const char* className = nullptr)
         : m_buttonText(buttonText)
+        , m_wanted(className)
     {
         connect(&m_poll, &QTimer::timeout, this, [this]() { answer(); });
         m_poll.start(10);
@@ -28,7 +30,7 @@ private:
     void answer()
     {
         QWidget* modal = QApplication::activeModalWidget();
-        if (!modal || !modal->isVisible())
+        if (!modal || !modal->isVisible() || (m_wanted && !modal->inherits(m_wanted)))
             return;
         m_poll.stop();
         m_className = QLatin1String(modal->metaObject()->className());
@@ -45,6 +47,7 @@ private:
     }
 
     QString m_buttonText;
+    const char* m_wanted = nullptr;
     QTimer m_poll;
     QString m_className;
     QString m_texts;
