@@ -19,9 +19,9 @@ AppUpdateDialog::AppUpdateDialog(QWidget* parent)
     setObjectName(QStringLiteral("UpdateDialog"));
     setWindowTitle(QCoreApplication::applicationName() + tr(" Updates Notification"));
 
+    m_messageLabel->setContentsMargins(12, 4, 12, 8);
     m_checkBox->setChecked(isChecked());
     connect(m_checkBox, &QCheckBox::toggled, this, &AppUpdateDialog::slotSetChecked);
-    m_messageLabel->setWordWrap(true);
 
     auto* yes = new QPushButton(tr("Yes"), this);
     auto* no = new QPushButton(tr("No"), this);

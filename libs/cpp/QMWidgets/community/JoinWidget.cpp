@@ -20,6 +20,8 @@ JoinWidget::JoinWidget(QWidget* parent)
     const App* app = App::theApp();
     const bool pocket = app->isPocketDevice();
     auto* heading = new QLabel(this);
+    heading->setAlignment(Qt::AlignHCenter);
+    heading->setContentsMargins(10, 4, 10, 0);
     heading->setText((pocket ? QStringLiteral("<H5>") : QStringLiteral("<H1>"))
         + tr("Join us and stay informed<br>about our") + (pocket ? QStringLiteral("</H5>") : QStringLiteral("</H1>"))
         + (pocket ? QStringLiteral("<H4>") : QStringLiteral("<H2>")) + tr("   1. FREE APP Actions<br>")

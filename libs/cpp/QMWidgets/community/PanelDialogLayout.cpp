@@ -17,6 +17,7 @@ void PanelDialogLayout::build(QDialog* dialog, QLabel* text, QWidget* panel, con
     auto* close = new QPushButton(closeText, dialog);
     close->setFlat(true);
     close->setMinimumHeight(32);
+    close->setMinimumWidth(120);
     close->setObjectName(QStringLiteral("PushButton"));
     QObject::connect(close, &QPushButton::clicked, dialog, &QDialog::accept);
 

@@ -34,8 +34,8 @@ ReminderDialog::ReminderDialog(QWidget* parent)
 
     m_label->setText(QStringLiteral("<CENTER>") + (m_pocket ? QStringLiteral("<H4>") : QStringLiteral("<H3>"))
         + QStringLiteral("If you like ") + name + QStringLiteral("-App,"));
+    // The text breaks where its lines end, not at the hyphen of the name.
     m_label->setMinimumHeight(90);
-    m_label->setWordWrap(true);
 
     m_logoLabel->setObjectName(QStringLiteral("LogoLabel"));
     m_logoLabel->setFixedSize(90, 90);
