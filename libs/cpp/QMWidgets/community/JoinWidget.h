@@ -20,16 +20,14 @@ public:
     // A picture button of the panel: flat, 190 by 35, checkable, its picture
     // from the style sheet by object name.
     static void applyButtonProperties(QPushButton* button, const QString& objectName);
+    // The page for a channel ("facebook", "twitter", "vkontakte", "email").
+    QString requestUrl(const QString& social) const;
 
 public slots:
     void slotFaceBookClicked();
     void slotTwitterClicked();
     void slotVKontakteClicked();
     void slotEmailClicked();
-
-public:
-    // The page for a channel ("facebook", "twitter", "vkontakte", "email").
-    QString requestUrl(const QString& social) const;
 
 private:
     void open(const QString& social);
