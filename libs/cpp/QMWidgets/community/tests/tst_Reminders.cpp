@@ -204,7 +204,7 @@ private slots:
     {
         QTemporaryDir dir;
         const QString path = dir.filePath(QStringLiteral("settings.plist"));
-        const int bumps = 150;
+        const int bumps = 60;
         QList<QProcess*> programs;
         for (int i = 0; i < 2; ++i) {
             auto* program = new QProcess(this);
