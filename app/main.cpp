@@ -107,6 +107,8 @@ int main(int argc, char* argv[])
     app.setMainWidget(&page);
     page.show();
     app.showHelpOnStart();
+    // Now and then a start asks to share the program or to join the maker.
+    app.callReminder(5, 6);
 
     return app.exec();
 }

@@ -508,6 +508,26 @@
         <source>About</source>
         <translation>Über</translation>
     </message>
+    <message>
+        <source> Updates Check Error</source>
+        <translation> – Fehler bei der Update-Prüfung</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;No internet connection is available,&lt;br&gt;please, check the firewall settings and make sure that&lt;br&gt;you are not using the the internet connection via the proxy server.&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;Keine Internetverbindung verfügbar,&lt;br&gt;bitte prüfen Sie die Firewall-Einstellungen und stellen Sie sicher,&lt;br&gt;dass Sie die Internetverbindung nicht über einen Proxyserver nutzen.&lt;/H3&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;The newer version of </source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;Eine neuere Version von </translation>
+    </message>
+    <message>
+        <source> is available.&lt;br&gt;Go to the updates web page?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation> ist verfügbar.&lt;br&gt;Zur Update-Seite gehen?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;You are using the latest version available.&lt;br&gt;Go to the updates web page anyway?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;Sie verwenden die neueste verfügbare Version.&lt;br&gt;Trotzdem zur Update-Seite gehen?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::AppMenu</name>
@@ -549,6 +569,25 @@
     </message>
 </context>
 <context>
+    <name>QMWidgets::AppUpdateDialog</name>
+    <message>
+        <source>Check for updates on start</source>
+        <translation>Beim Start nach Updates suchen</translation>
+    </message>
+    <message>
+        <source> Updates Notification</source>
+        <translation> – Updates</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+</context>
+<context>
     <name>QMWidgets::HelpDialog</name>
     <message>
         <source>&amp;Never show on start</source>
@@ -568,6 +607,51 @@
     <message>
         <source>Ok</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinDialog</name>
+    <message>
+        <source>Join us</source>
+        <translation>Folgen Sie uns</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinReminderDialog</name>
+    <message>
+        <source>Join Us</source>
+        <translation>Folgen Sie uns</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinWidget</name>
+    <message>
+        <source>Join us and stay informed&lt;br&gt;about our</source>
+        <translation>Folgen Sie uns und erfahren Sie&lt;br&gt;als Erste von unseren</translation>
+    </message>
+    <message>
+        <source>   1. FREE APP Actions&lt;br&gt;</source>
+        <translation>   1. Gratis-Aktionen&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   2. APP Updates&lt;br&gt;</source>
+        <translation>   2. App-Updates&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   3. New APPs&lt;br&gt;</source>
+        <translation>   3. Neuen Apps&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   4. Important News&lt;br&gt;</source>
+        <translation>   4. Wichtigen Neuigkeiten&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   and more...</source>
+        <translation>   und mehr...</translation>
     </message>
 </context>
 <context>
@@ -645,6 +729,58 @@
     <message>
         <source>App Menu</source>
         <translation>App-Menü</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::RateReminderDialog</name>
+    <message>
+        <source>&lt;br&gt;please rate it in the App Store.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;bewerten Sie sie bitte im App Store.&lt;br&gt;Danke!</translation>
+    </message>
+    <message>
+        <source>&amp;Rate It Now</source>
+        <translation>&amp;Jetzt bewerten</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ReminderDialog</name>
+    <message>
+        <source>&amp;Maybe Later</source>
+        <translation>&amp;Vielleicht später</translation>
+    </message>
+    <message>
+        <source>&amp;Never Ask Me Again</source>
+        <translation>&amp;Nie wieder fragen</translation>
+    </message>
+    <message>
+        <source>Help Spread the Word about </source>
+        <translation>Erzählen Sie weiter von </translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::TellDialog</name>
+    <message>
+        <source>If you like&lt;br&gt;</source>
+        <translation>Wenn Ihnen&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;please share it with your friends.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;gefällt, teilen Sie es bitte mit Ihren Freunden.&lt;br&gt;Danke!</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::TellReminderDialog</name>
+    <message>
+        <source>Share</source>
+        <translation>Teilen</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;Share it with Your Friends.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;teilen Sie sie mit Ihren Freunden.&lt;br&gt;Danke!</translation>
     </message>
 </context>
 <context>

@@ -508,6 +508,26 @@
         <source>About</source>
         <translation>О программе</translation>
     </message>
+    <message>
+        <source> Updates Check Error</source>
+        <translation> – ошибка проверки обновлений</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;No internet connection is available,&lt;br&gt;please, check the firewall settings and make sure that&lt;br&gt;you are not using the the internet connection via the proxy server.&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;Нет подключения к интернету,&lt;br&gt;пожалуйста, проверьте настройки брандмауэра и убедитесь,&lt;br&gt;что вы не выходите в интернет через прокси-сервер.&lt;/H3&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;The newer version of </source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;Доступна новая версия </translation>
+    </message>
+    <message>
+        <source> is available.&lt;br&gt;Go to the updates web page?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>.&lt;br&gt;Перейти на страницу обновлений?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;You are using the latest version available.&lt;br&gt;Go to the updates web page anyway?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;У вас последняя доступная версия.&lt;br&gt;Всё равно перейти на страницу обновлений?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::AppMenu</name>
@@ -549,6 +569,25 @@
     </message>
 </context>
 <context>
+    <name>QMWidgets::AppUpdateDialog</name>
+    <message>
+        <source>Check for updates on start</source>
+        <translation>Проверять обновления при запуске</translation>
+    </message>
+    <message>
+        <source> Updates Notification</source>
+        <translation> – обновления</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Да</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Нет</translation>
+    </message>
+</context>
+<context>
     <name>QMWidgets::HelpDialog</name>
     <message>
         <source>&amp;Never show on start</source>
@@ -568,6 +607,51 @@
     <message>
         <source>Ok</source>
         <translation>ОК</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinDialog</name>
+    <message>
+        <source>Join us</source>
+        <translation>Присоединяйтесь</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinReminderDialog</name>
+    <message>
+        <source>Join Us</source>
+        <translation>Присоединяйтесь</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinWidget</name>
+    <message>
+        <source>Join us and stay informed&lt;br&gt;about our</source>
+        <translation>Присоединяйтесь и узнавайте&lt;br&gt;первыми о наших</translation>
+    </message>
+    <message>
+        <source>   1. FREE APP Actions&lt;br&gt;</source>
+        <translation>   1. Бесплатных акциях&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   2. APP Updates&lt;br&gt;</source>
+        <translation>   2. Обновлениях&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   3. New APPs&lt;br&gt;</source>
+        <translation>   3. Новых приложениях&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   4. Important News&lt;br&gt;</source>
+        <translation>   4. Важных новостях&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   and more...</source>
+        <translation>   и многом другом...</translation>
     </message>
 </context>
 <context>
@@ -645,6 +729,58 @@
     <message>
         <source>App Menu</source>
         <translation>Меню приложения</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::RateReminderDialog</name>
+    <message>
+        <source>&lt;br&gt;please rate it in the App Store.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;пожалуйста, оцените его в App Store.&lt;br&gt;Спасибо!</translation>
+    </message>
+    <message>
+        <source>&amp;Rate It Now</source>
+        <translation>&amp;Оценить сейчас</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ReminderDialog</name>
+    <message>
+        <source>&amp;Maybe Later</source>
+        <translation>&amp;Может быть, позже</translation>
+    </message>
+    <message>
+        <source>&amp;Never Ask Me Again</source>
+        <translation>&amp;Больше не спрашивать</translation>
+    </message>
+    <message>
+        <source>Help Spread the Word about </source>
+        <translation>Расскажите друзьям о </translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::TellDialog</name>
+    <message>
+        <source>If you like&lt;br&gt;</source>
+        <translation>Если вам нравится&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;please share it with your friends.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;пожалуйста, поделитесь им с друзьями.&lt;br&gt;Спасибо!</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::TellReminderDialog</name>
+    <message>
+        <source>Share</source>
+        <translation>Поделиться</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;Share it with Your Friends.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;поделитесь им с друзьями.&lt;br&gt;Спасибо!</translation>
     </message>
 </context>
 <context>

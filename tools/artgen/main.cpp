@@ -3,6 +3,7 @@
 #include "ChordArt.h"
 #include "ChordPageArt.h"
 #include "CoverArt.h"
+#include "CommunityArt.h"
 #include "DesktopIconArt.h"
 #include "FingerboardArt.h"
 #include "FingerboardDesign.h"
@@ -58,6 +59,7 @@ int main(int argc, char* argv[])
     ChordArt::generate(writer);
     ChordPageArt::generate(writer);
     FrameArt::generate(writer);
+    CommunityArt::generate(writer);
     GuitarSampleSynth::generate(writer);
     InstrumentSampleSynth::generate(writer);
     MetronomeSoundSynth::generate(writer);

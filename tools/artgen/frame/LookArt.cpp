@@ -13,105 +13,6 @@
 
 namespace {
 
-// A rounded tile with a brushed gradient of the channel's colour and a thin
-// light rim; hover lifts its brightness.
-void paintTile(QPainter& p, const QSizeF& size, const QColor& colour, bool hover)
-{
-    const QRectF r(1.5, 1.5, size.width() - 3, size.height() - 3);
-    QLinearGradient fill(r.topLeft(), r.bottomLeft());
-    const QColor base = hover ? colour.lighter(125) : colour;
-    fill.setColorAt(0.0, base.lighter(135));
-    fill.setColorAt(0.45, base);
-    fill.setColorAt(1.0, base.darker(160));
-    p.setPen(QPen(QColor(255, 255, 255, hover ? 200 : 110), 1.2));
-    p.setBrush(fill);
-    p.drawRoundedRect(r, size.width() * 0.2, size.height() * 0.2);
-    QLinearGradient gloss(r.topLeft(), QPointF(r.left(), r.center().y()));
-    gloss.setColorAt(0.0, QColor(255, 255, 255, 70));
-    gloss.setColorAt(1.0, QColor(255, 255, 255, 0));
-    p.setPen(Qt::NoPen);
-    p.setBrush(gloss);
-    p.drawRoundedRect(r.adjusted(2, 2, -2, -r.height() / 2), size.width() * 0.16, size.height() * 0.1);
-}
-
-void paintLetters(QPainter& p, const QRectF& box, const QString& text, qreal pixelSize)
-{
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setBold(true);
-    font.setPixelSize(qRound(pixelSize));
-    p.setFont(font);
-    p.setPen(Qt::white);
-    p.drawText(box, Qt::AlignCenter, text);
-}
-
-void paintEnvelope(QPainter& p, const QRectF& box)
-{
-    p.setPen(QPen(Qt::white, box.width() * 0.07, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    p.setBrush(Qt::NoBrush);
-    p.drawRoundedRect(box, 2, 2);
-    QPainterPath flap;
-    flap.moveTo(box.topLeft());
-    flap.lineTo(box.center().x(), box.top() + box.height() * 0.6);
-    flap.lineTo(box.topRight());
-    p.drawPath(flap);
-}
-
-// The channel's badge in the lower right corner: a plus to join, an arrow to share.
-void paintBadge(QPainter& p, const QSizeF& size, bool join)
-{
-    const qreal d = size.width() * 0.36;
-    const QRectF badge(size.width() - d - 2, size.height() - d - 2, d, d);
-    p.setPen(QPen(QColor(40, 28, 18), 1.2));
-    p.setBrush(QColor(240, 226, 196));
-    p.drawEllipse(badge);
-    p.setPen(QPen(QColor(90, 50, 25), d * 0.14, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF c = badge.center();
-    const qreal a = d * 0.26;
-    if (join) {
-        p.drawLine(QPointF(c.x() - a, c.y()), QPointF(c.x() + a, c.y()));
-        p.drawLine(QPointF(c.x(), c.y() - a), QPointF(c.x(), c.y() + a));
-    } else {
-        p.drawLine(QPointF(c.x() - a, c.y() + a), QPointF(c.x() + a, c.y() - a));
-        p.drawLine(QPointF(c.x() + a, c.y() - a), QPointF(c.x(), c.y() - a));
-        p.drawLine(QPointF(c.x() + a, c.y() - a), QPointF(c.x() + a, c.y()));
-    }
-}
-
-void generateChannels(ArtWriter& writer)
-{
-    struct Channel
-    {
-        const char* name;
-        QColor colour;
-        QString mark;
-    };
-    const Channel channels[] = {
-        { "facebook", QColor(59, 89, 152), QStringLiteral("f") },
-        { "vkontakte", QColor(76, 117, 163), QStringLiteral("vk") },
-        { "twitter", QColor(29, 142, 206), QStringLiteral("t") },
-        { "email", QColor(150, 92, 48), QString() },
-    };
-    const QSize size(64, 64);
-    for (const Channel& channel : channels) {
-        for (const bool join : { true, false }) {
-            for (const bool hover : { false, true }) {
-                const QString name = QString::fromLatin1(channel.name)
-                    + (join ? QStringLiteral("join") : QStringLiteral("share"))
-                    + (hover ? QStringLiteral("_hover") : QString());
-                writer.addPicturePair(name, size, [&](QPainter& p, const QSizeF& s) {
-                    paintTile(p, s, channel.colour, hover);
-                    const QRectF content(s.width() * 0.16, s.height() * 0.12, s.width() * 0.56, s.height() * 0.6);
-                    if (channel.mark.isEmpty())
-                        paintEnvelope(p, content.adjusted(0, content.height() * 0.15, 0, -content.height() * 0.1));
-                    else
-                        paintLetters(p, content, channel.mark, s.height() * (channel.mark.size() > 1 ? 0.34 : 0.5));
-                    paintBadge(p, s, join);
-                });
-            }
-        }
-    }
-}
-
 // Instrument silhouettes in ivory on a dark rounded plate, for the tuner and
 // finder pages' instrument labels.
 QPainterPath bodyPath(const QString& instrument, const QSizeF& s)
@@ -280,7 +181,6 @@ void paintMessageIcon(QPainter& p, const QSizeF& size, const QString& sign, cons
 
 void LookArt::generate(ArtWriter& writer)
 {
-    generateChannels(writer);
     generateInstruments(writer);
 
     const struct

@@ -3,30 +3,43 @@
 #include "AboutDialog.h"
 #include "AppPalette.h"
 #include "AppStyle.h"
+#include "AppUpdateDialog.h"
 #include "App_mac.h"
 #include "BlenderWidget.h"
 #include "CorvaneSite.h"
 #include "FocusRing.h"
 #include "HelpDialog.h"
+#include "JoinDialog.h"
+#include "JoinReminderDialog.h"
+#include "MMessageBox.h"
 #include "MessageLog.h"
 #include "ProductLinks.h"
+#include "RateReminderDialog.h"
+#include "ReminderChoice.h"
+#include "SettingsLock.h"
 #include "SettingsStore.h"
+#include "TellDialog.h"
+#include "TellReminderDialog.h"
 #include "ThirdPartyNotices.h"
 #include "TranslationsManager.h"
+#include "UpdateCheck.h"
 #include "UserDirectories.h"
 
 #include <QDateTime>
 #include <QDebug>
 #include <QDesktopServices>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QSettings>
 #include <QSysInfo>
+#include <QTime>
 #include <QTimer>
 #include <QUrl>
 
@@ -113,6 +126,12 @@ QVariant App::settingsValue(const QString& key, const QVariant& defaultValue) co
 void App::setSettingsValue(const QString& key, const QVariant& value)
 {
     m_settings->setValue(settingsKey(key), value);
+}
+
+QVariant App::updateSettingsValue(
+    const QString& key, const QVariant& defaultValue, const std::function<QVariant(const QVariant&)>& change)
+{
+    return SettingsLock::update(m_settings, settingsKey(key), defaultValue, change);
 }
 
 void App::setOldSettingsMode(bool on)
@@ -651,9 +670,23 @@ void App::slotTellFriend()
     QDesktopServices::openUrl(QUrl(tellFriendLink()));
 }
 
-void App::slotShareApp() { }
+void App::slotShareApp()
+{
+    TellDialog dialog(QApplication::activeWindow());
+    QEventLoop loop;
+    connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
+    dialog.open();
+    loop.exec();
+}
 
-void App::slotJoin() { }
+void App::slotJoin()
+{
+    JoinDialog dialog(QApplication::activeWindow());
+    QEventLoop loop;
+    connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
+    dialog.open();
+    loop.exec();
+}
 
 void App::slotAbout()
 {
@@ -675,9 +708,191 @@ void App::slotHelp()
     m_helpDialog->exec();
 }
 
-void App::slotCheckUpdate() { }
+// ---- Reminders
 
-void App::nop_cuos() { }
+void App::callReminder(int count, int mask)
+{
+    if (mask != ReminderChoice::RateInStore)
+        m_random.seed(quint32(QTime::currentTime().msec()));
+    scheduleReminder(ReminderChoice::kindFor(mask, m_random.generate(), isAppStore()), count);
+}
+
+void App::callRateReminder(int count)
+{
+    m_random.seed(quint32(QTime::currentTime().msec()));
+    scheduleReminder(ReminderChoice::Rate, count);
+}
+
+void App::callTellReminder(int count)
+{
+    m_random.seed(quint32(QTime::currentTime().msec()));
+    scheduleReminder(ReminderChoice::Tell, count);
+}
+
+void App::callJoinReminder(int count)
+{
+    m_random.seed(quint32(QTime::currentTime().msec()));
+    scheduleReminder(ReminderChoice::Join, count);
+}
+
+void App::scheduleReminder(int kind, int count)
+{
+    m_reminderKind = kind;
+    m_reminderCount = count;
+    QTimer::singleShot(m_reminderDelay, this, &App::slotCallRateReminderInternal);
+}
+
+void App::setRemiderCount(int count)
+{
+    m_reminderCount = count;
+}
+
+void App::setRemiderDelay(int delay)
+{
+    m_reminderDelay = delay;
+}
+
+void App::slotCallRateReminder()
+{
+    m_reminderKind = ReminderChoice::Rate;
+    QTimer::singleShot(m_reminderDelay, this, &App::slotCallRateReminderInternal);
+}
+
+void App::slotCallTellReminder()
+{
+    m_reminderKind = ReminderChoice::Tell;
+    QTimer::singleShot(m_reminderDelay, this, &App::slotCallRateReminderInternal);
+}
+
+void App::slotCallJoinReminder()
+{
+    m_reminderKind = ReminderChoice::Join;
+    QTimer::singleShot(m_reminderDelay, this, &App::slotCallRateReminderInternal);
+}
+
+void App::slotCallRateReminderInternal()
+{
+    const QString autoReminder = QStringLiteral("AutoReminder");
+    m_settings->sync();
+    if (!settingsValue(autoReminder, true).toBool())
+        return;
+    const int count = settingsValue(QStringLiteral("AutoReminderCount"), 1).toInt();
+    if (ReminderChoice::isDue(count, m_reminderCount)) {
+        QWidget* parent = QApplication::activeWindow();
+        ReminderDialog* dialog = nullptr;
+        if (m_reminderKind == ReminderChoice::Rate)
+            dialog = new RateReminderDialog(parent);
+        else if (m_reminderKind == ReminderChoice::Tell)
+            dialog = new TellReminderDialog(parent);
+        else
+            dialog = new JoinReminderDialog(parent);
+        dialog->exec();
+        if (dialog->state() == ReminderDialog::Never)
+            setSettingsValue(autoReminder, false);
+        if (dialog->state() == ReminderDialog::Now) {
+            slotRateApp();
+            setSettingsValue(autoReminder, false);
+        }
+        delete dialog;
+    }
+    // Counted only once the dialog has ended, so a crash in it counts nothing.
+    updateSettingsValue(QStringLiteral("AutoReminderCount"), 1,
+        [](const QVariant& value) { return ReminderChoice::nextCount(value.toInt()); });
+}
+
+// ---- Update check and launch counter
+
+void App::setUpdateServers(const QMRequest::ServerPair& servers)
+{
+    m_updateServers = servers;
+}
+
+void App::setCounterServers(const QMRequest::ServerPair& servers)
+{
+    m_counterServers = servers;
+}
+
+QString App::getUpdateRequest(const QString& server)
+{
+    return QMRequest::UpdateCheck::fetch(
+        server + QMRequest::CorvaneServers::updatePath(QCoreApplication::applicationName()), m_updateServers.timeLimit);
+}
+
+QString App::getUpdateRequest()
+{
+    const QString answer = getUpdateRequest(m_updateServers.primary);
+    if (!answer.isEmpty())
+        return answer;
+    return getUpdateRequest(m_updateServers.fallback);
+}
+
+int App::isUpdateAvailable()
+{
+    return QMRequest::UpdateCheck::availability(getUpdateRequest(), buildDate());
+}
+
+void App::slotCheckUpdate()
+{
+    const int available = isUpdateAvailable();
+    if (available == QMRequest::UpdateCheck::Unknown) {
+        MMessageBox::critical(mainWidget(), QCoreApplication::applicationName() + tr(" Updates Check Error"),
+            tr("<H3>No internet connection is available,<br>please, check the firewall settings and make sure "
+               "that<br>you are not using the the internet connection via the proxy server.</H3>"),
+            QMessageBox::Ok);
+        return;
+    }
+    showUpdateIsAvailable(available == QMRequest::UpdateCheck::Available);
+}
+
+void App::showUpdateIsAvailable(bool available)
+{
+    auto* dialog = new AppUpdateDialog(mainWidget());
+    if (available) {
+        dialog->setMessage(tr("<CENTER><H2>The newer version of ") + QCoreApplication::applicationName()
+            + tr(" is available.<br>Go to the updates web page?</H2></CENTER>"));
+        dialog->setPic(QPixmap(QStringLiteral(":/update_available.png")));
+    } else {
+        dialog->setMessage(tr("<CENTER><H2>You are using the latest version available.<br>Go to the updates web page "
+                              "anyway?</H2></CENTER>"));
+        dialog->setPic(QPixmap(QStringLiteral(":/update_not_available.png")));
+    }
+    dialog->exec();
+    delete dialog;
+}
+
+void App::nop_cuos()
+{
+    const QString key = QStringLiteral("LastUpdateCheckDate");
+    const QString format = QStringLiteral("yyyy-MM-dd");
+    const QDate lastCheck = QDate::fromString(settingsValue(key).toString(), format);
+    const QDate today = QDate::currentDate();
+    if (lastCheck.isValid()) {
+        if (!QMRequest::UpdateCheck::isAutomaticCheckDue(lastCheck, today))
+            return;
+        // Only good news is told; no answer or no update stays silent.
+        if (isUpdateAvailable() == QMRequest::UpdateCheck::Available)
+            showUpdateIsAvailable(true);
+    }
+    setSettingsValue(key, today.toString(format));
+}
+
+void App::startCount()
+{
+    if (isAppStore())
+        return;
+    // Taken before the request runs: the count is tried once, whatever its fate.
+    const bool initialized
+        = updateSettingsValue(QStringLiteral("Initialized"), false, [](const QVariant&) { return true; }).toBool();
+    if (!initialized)
+        QTimer::singleShot(200, this, &App::slotStartCount);
+}
+
+void App::slotStartCount()
+{
+    // The answer isn't used.
+    QMRequest::UpdateCheck::request(
+        m_counterServers, QMRequest::CorvaneServers::counterPath(QCoreApplication::applicationName()));
+}
 
 // ---- Widget helpers
 

@@ -7,7 +7,11 @@
 #include <QStringList>
 #include <QVariant>
 
+#include "CorvaneServers.h"
 #include "ProductLinks.h"
+
+#include <QRandomGenerator>
+#include <functional>
 
 class QSettings;
 class QDateTime;
@@ -35,6 +39,10 @@ public:
     // Settings store ("settings.plist", INI text, keys under the application name)
     QVariant settingsValue(const QString& key, const QVariant& defaultValue = QVariant()) const;
     void setSettingsValue(const QString& key, const QVariant& value);
+    // Stores change(value) under key, safe against another program that
+    // changes the same key at the same moment; returns the value before.
+    QVariant updateSettingsValue(
+        const QString& key, const QVariant& defaultValue, const std::function<QVariant(const QVariant&)>& change);
     void setOldSettingsMode(bool on);
     QSettings* settings() const;
 
@@ -140,6 +148,25 @@ public:
     QString contactUsLink() const;
     QString tellFriendLink() const;
 
+    // Reminders to rate, share or join, at every count-th launch
+    void callReminder(int count, int mask);
+    void callRateReminder(int count);
+    void callTellReminder(int count);
+    void callJoinReminder(int count);
+    void setRemiderCount(int count);
+    void setRemiderDelay(int delay);
+
+    // Update check and launch counter
+    void startCount();
+    // 1 a newer release exists, -1 none, 0 no answer.
+    int isUpdateAvailable();
+    QString getUpdateRequest();
+    QString getUpdateRequest(const QString& server);
+    void showUpdateIsAvailable(bool available);
+    // The servers asked; the program keeps the maker's, a test its own.
+    void setUpdateServers(const QMRequest::ServerPair& servers);
+    void setCounterServers(const QMRequest::ServerPair& servers);
+
     // Widget helpers
     static bool isChildOf(QObject* child, QObject* parent);
     QWidget* getWidgetByClassName(const QString& name);
@@ -163,6 +190,13 @@ public slots:
     void slotHelp();
     void slotGoToPromotedApp();
     void slotCheckUpdate();
+    void slotCallRateReminder();
+    void slotCallTellReminder();
+    void slotCallJoinReminder();
+    // Shows the reminder of the stored kind when the launch is due, and
+    // counts the launch.
+    void slotCallRateReminderInternal();
+    void slotStartCount();
     void slotSetBlendMainWidget(bool on);
     void slotFocusChanged(QWidget* old, QWidget* now);
 
@@ -178,6 +212,7 @@ private slots:
 private:
     static QString directoryOf(const QString& fileOrDir);
     QString settingsKey(const QString& key) const;
+    void scheduleReminder(int kind, int count);
     QSize desktopSize() const;
 
     QSettings* m_settings = nullptr;
@@ -198,6 +233,12 @@ private:
     QString m_legalNotices;
     bool m_firstStart = false;
     bool m_isDirectDistribution = false;
+    int m_reminderCount = 10;
+    int m_reminderDelay = 4000;
+    int m_reminderKind = 0;
+    QRandomGenerator m_random;
+    QMRequest::ServerPair m_updateServers = QMRequest::CorvaneServers::updateServers();
+    QMRequest::ServerPair m_counterServers = QMRequest::CorvaneServers::counterServers();
 };
 
 } // namespace QMWidgets
