@@ -57,7 +57,7 @@ private slots:
         const QString foreign = QStringLiteral("[Desktop Entry]\nType=Application\nExec=/usr/bin/other-tool\n");
         const QString notAnEntry = QStringLiteral("remember to practise scales\nExec=%1\n").arg(exe);
         const QString otherGroupFirst
-            = QStringLiteral("[Settings]\nExec=%1\n[Desktop Entry]\nExec=/bin/true\n").arg(exe);
+            = QStringLiteral("[Settings]\nExec=%1\n[Desktop Entry]\nType=Application\n").arg(exe);
         QTest::newRow("on") << QString() << QList<bool> { true } << false << true << "ours";
         QTest::newRow("on twice") << QString() << QList<bool> { true, true } << false << true << "ours";
         QTest::newRow("on, then off") << QString() << QList<bool> { true, false } << false << false << "none";
