@@ -1,6 +1,7 @@
 #include "App_mac.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QLocalSocket>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -29,19 +30,47 @@ class tst_SingleInstance : public QObject
     }
 
     // True when a copy listens and answers as a running copy does.
-    static bool copyAnswers()
+    static bool copyAnswers(int timeoutMs)
     {
+        const QDeadlineTimer deadline(timeoutMs);
         QLocalSocket socket;
         socket.connectToServer(Platform::App_mac::defaultServerName());
-        if (!socket.waitForConnected(1000))
+        if (!socket.waitForConnected(deadline.remainingTime()))
             return false;
         socket.write("reopen\n");
         while (!socket.canReadLine()) {
-            if (!socket.waitForReadyRead(1000))
+            if (!socket.waitForReadyRead(deadline.remainingTime()))
                 return false;
         }
         return socket.readLine() == "ok\n";
     }
+
+    // Asks until a copy answers or the time is up; each try costs up to its
+    // own time-out, which the QTRY macros would not count.
+    static bool waitForAnswer()
+    {
+        const QDeadlineTimer deadline(30000);
+        while (!deadline.hasExpired()) {
+            if (copyAnswers(200))
+                return true;
+            QTest::qWait(50);
+        }
+        return false;
+    }
+
+    // Ends a copy however the test leaves, a stopped one included.
+    struct Ending
+    {
+        QProcess* copy;
+        ~Ending()
+        {
+            if (copy->state() == QProcess::NotRunning)
+                return;
+            ::kill(pid_t(copy->processId()), SIGCONT);
+            copy->kill();
+            copy->waitForFinished(10000);
+        }
+    };
 
 private slots:
     void initTestCase()
@@ -68,7 +97,8 @@ private slots:
         QFETCH(QString, first);
         QFETCH(bool, secondEnds);
         const auto firstCopy = start();
-        QTRY_VERIFY_WITH_TIMEOUT(copyAnswers(), 30000);
+        const Ending endFirst { firstCopy.get() };
+        QVERIFY(waitForAnswer());
         if (first == QLatin1String("crashed")) {
             firstCopy->kill();
             QVERIFY(firstCopy->waitForFinished(10000));
@@ -77,6 +107,7 @@ private slots:
         }
 
         const auto secondCopy = start();
+        const Ending endSecond { secondCopy.get() };
         if (secondEnds) {
             QVERIFY(secondCopy->waitForFinished(30000));
             QCOMPARE(secondCopy->exitStatus(), QProcess::NormalExit);
@@ -84,15 +115,8 @@ private slots:
             QCOMPARE(firstCopy->state(), QProcess::Running);
         } else {
             // The answer can only come from the second copy now.
-            QTRY_VERIFY_WITH_TIMEOUT(copyAnswers(), 30000);
+            QVERIFY(waitForAnswer());
             QCOMPARE(secondCopy->state(), QProcess::Running);
-        }
-        for (QProcess* copy : { firstCopy.get(), secondCopy.get() }) {
-            if (copy->state() == QProcess::NotRunning)
-                continue;
-            ::kill(pid_t(copy->processId()), SIGCONT);
-            copy->kill();
-            copy->waitForFinished(10000);
         }
     }
 };
