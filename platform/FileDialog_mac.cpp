@@ -27,7 +27,7 @@ QStringList FileDialog_mac::allowedFileTypes(const QString& filter)
 {
     QString types = filter;
     types.remove(QLatin1String("*."));
-    QStringList list = types.split(QStringLiteral(";;"), Qt::SkipEmptyParts);
+    QStringList list = types.split(QStringLiteral(";;"));
     for (QString& type : list)
         type = type.trimmed();
     list.removeAll(QString());

@@ -81,9 +81,11 @@ private slots:
         QWidget* parent = withParent ? &window : nullptr;
         QPointer<QWidget> dialogParent;
         QFileDialog::FileMode mode = QFileDialog::AnyFile;
+        Qt::WindowModality modality = Qt::NonModal;
         answerDialog([&](QFileDialog* dialog) {
             dialogParent = dialog->parentWidget();
             mode = dialog->fileMode();
+            modality = dialog->windowModality();
             if (!accepted) {
                 dialog->reject();
                 return;
@@ -118,6 +120,8 @@ private slots:
         }
 
         QCOMPARE(dialogParent.data(), parent);
+        // Open on its parent, the dialog blocks only that window; Qt's own blocks all.
+        QCOMPARE(modality, withParent ? Qt::WindowModal : Qt::ApplicationModal);
         QCOMPARE(mode, expectedMode);
         QStringList expectedPaths;
         for (const QString& name : expected)
