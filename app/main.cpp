@@ -62,6 +62,9 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QMWidgets::App app(argc, argv, QStringLiteral("Corvane"), QStringLiteral(QM_PROGRAM));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.2"));
+    // The name of the menu entry: the desktop matches windows, badge and
+    // log-on entry to the program by it.
+    QGuiApplication::setDesktopFileName(QStringLiteral(QM_DESKTOP_ID));
     const int exitCode = QMWidgets::CommandLine::handle(QStringLiteral(QM_DESCRIPTION));
     if (exitCode >= 0)
         return exitCode;

@@ -1,10 +1,10 @@
 #include "App_mac.h"
 
+#include "SingleInstanceChannel.h"
+
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
-#include <QLocalServer>
-#include <QLocalSocket>
 
 #include <unistd.h>
 
@@ -13,9 +13,6 @@ namespace Platform {
 namespace {
 
 App_mac* s_instance = nullptr;
-
-// How long a new launch waits for the running copy to answer.
-constexpr int handOverTimeoutMs = 500;
 
 } // namespace
 
@@ -28,17 +25,9 @@ App_mac* App_mac::instance()
 
 App_mac::App_mac(const QString& serverName, QObject* parent)
     : QObject(parent)
+    , m_channel(new SingleInstanceChannel(serverName, this))
 {
-    if (tellRunningCopy(serverName)) {
-        m_runningElsewhere = true;
-        return;
-    }
-    // Nobody answered: a socket file left by a crashed copy is stale.
-    QLocalServer::removeServer(serverName);
-    m_server = new QLocalServer(this);
-    m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    connect(m_server, &QLocalServer::newConnection, this, &App_mac::slotNewConnection);
-    m_server->listen(serverName);
+    connect(m_channel, &SingleInstanceChannel::reopenRequested, this, &App_mac::emitClick);
 }
 
 App_mac::~App_mac()
@@ -58,32 +47,12 @@ QString App_mac::defaultServerName()
 
 bool App_mac::isRunningElsewhere() const
 {
-    return m_runningElsewhere;
+    return m_channel->isRunningElsewhere();
 }
 
 void App_mac::emitClick()
 {
     emit dockClicked();
-}
-
-bool App_mac::tellRunningCopy(const QString& serverName)
-{
-    QLocalSocket socket;
-    socket.connectToServer(serverName);
-    if (!socket.waitForConnected(handOverTimeoutMs))
-        return false;
-    socket.write("reopen\n");
-    socket.waitForBytesWritten(handOverTimeoutMs);
-    socket.disconnectFromServer();
-    return true;
-}
-
-void App_mac::slotNewConnection()
-{
-    while (QLocalSocket* socket = m_server->nextPendingConnection()) {
-        connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-        emitClick();
-    }
 }
 
 } // namespace Platform

@@ -2,14 +2,13 @@
 
 #include <QObject>
 
-class QLocalServer;
-
 namespace Platform {
 
+class SingleInstanceChannel;
+
 // Turns a request to bring the program forward into the signal dockClicked().
-// On Linux that request is a second launch: it finds the running copy over a
-// local socket named after the application and the user, and the running
-// copy emits the signal while the new launch steps aside.
+// On Linux that request is a second launch, which reaches the running copy
+// through a SingleInstanceChannel named after the application and the user.
 class App_mac : public QObject
 {
     Q_OBJECT
@@ -32,14 +31,8 @@ public:
 signals:
     void dockClicked();
 
-private slots:
-    void slotNewConnection();
-
 private:
-    static bool tellRunningCopy(const QString& serverName);
-
-    QLocalServer* m_server = nullptr;
-    bool m_runningElsewhere = false;
+    SingleInstanceChannel* m_channel = nullptr;
 };
 
 } // namespace Platform
