@@ -1,0 +1,317 @@
+#include "FileInput.h"
+
+#include "Common/FileUtil.h"
+#include "Common/Util.h"
+
+#include <QDebug>
+#include <QUrl>
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace Audio {
+
+namespace {
+
+QList<FileInput*>& inputs()
+{
+    static QList<FileInput*> list;
+    return list;
+}
+
+QString& temporaryPath()
+{
+    static QString path = QStringLiteral("/tmp");
+    return path;
+}
+
+} // namespace
+
+FileInput::FileInput()
+{
+    inputs().append(this);
+}
+
+FileInput::~FileInput()
+{
+    close();
+    inputs().removeOne(this);
+}
+
+const QList<FileInput*>& FileInput::filesInUse()
+{
+    return inputs();
+}
+
+void FileInput::setTempPath(const QString& path)
+{
+    temporaryPath() = path;
+}
+
+QString FileInput::tempPath()
+{
+    return temporaryPath();
+}
+
+short FileInput::fmt() const
+{
+    return BaseInput::fmt();
+}
+
+int FileInput::readChunk(Chunk* chunk, int swapSize)
+{
+    if (!m_file)
+        return -1;
+    unsigned char header[8];
+    const size_t got = std::fread(header, 1, sizeof header, m_file);
+    if (got == sizeof header) {
+        std::memcpy(chunk->id, header, 4);
+        const unsigned int little
+            = header[4] | (header[5] << 8) | (header[6] << 16) | (static_cast<unsigned int>(header[7]) << 24);
+        chunk->size = swapSize ? FileUtil::swapL(little) : little;
+    }
+    return static_cast<int>(got);
+}
+
+bool FileInput::open(const char*)
+{
+    return false;
+}
+
+bool FileInput::load(const char* path, bool ignoreExtension)
+{
+    if (!ignoreExtension) {
+        const QString lowerPath = QString::fromLocal8Bit(path).toLower();
+        const QStringList endings = extentions().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        const bool known = std::any_of(endings.cbegin(), endings.cend(),
+            [&lowerPath](const QString& ending) { return lowerPath.endsWith(ending); });
+        if (!known)
+            return false;
+    }
+    struct stat status;
+    if (::stat(path, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size < 40)
+        return false;
+    if (m_file)
+        close();
+    if (!open(path))
+        return false;
+    m_endOfAudio = static_cast<long long>(m_fileInfo.dataOffset()) + m_fileInfo.dataSize() + 8;
+    m_fileInfo.setUrl(QUrl::fromLocalFile(QString::fromLocal8Bit(path)));
+    rewind();
+    return true;
+}
+
+int FileInput::read(char* buffer, int bytes)
+{
+    if (!m_file || bytes <= 0)
+        return 0;
+    const long long start = ftello(m_file);
+    if (start < 0 || start >= m_endOfAudio)
+        return 0;
+    long long count = static_cast<long long>(std::fread(buffer, 1, static_cast<size_t>(bytes), m_file));
+    if (start + count > m_endOfAudio)
+        count = m_endOfAudio - start;
+    m_lastPosition = start;
+    return static_cast<int>(std::max(0LL, count));
+}
+
+int FileInput::read(MTools::Handle<RawBuffer> buffer)
+{
+    return read(buffer->data(), buffer->size());
+}
+
+int FileInput::read(MTools::Handle<AudioFloatBuffer> buffer)
+{
+    if (buffer->frameSize() < 1)
+        return 0;
+    return read(buffer->data(), buffer->size()) / buffer->frameSize();
+}
+
+int FileInput::read(MTools::Handle<AudioFloatBuffer> buffer, unsigned long frames)
+{
+    Q_ASSERT(
+        !((frames * static_cast<unsigned long>(buffer->frameSize())) > static_cast<unsigned long>(buffer->size())));
+    if (buffer->frameSize() < 1)
+        return 0;
+    return read(buffer->data(), static_cast<int>(frames) * buffer->frameSize()) / buffer->frameSize();
+}
+
+int FileInput::read(float* samples, int count)
+{
+    const int width = bitsPerSample() / 8;
+    if (width != 1 && width != 2 && width != 3) {
+        qWarning().noquote() << "FileInput::read() Error: " << bitsPerSample() << "bits data format is not supported";
+        return 0;
+    }
+    if (count <= 0)
+        return 0;
+    m_rawScratch.resize(static_cast<size_t>(count) * static_cast<size_t>(width));
+    m_intScratch.resize(static_cast<size_t>(count));
+    const int bytes = read(m_rawScratch.data(), count * width);
+    const int got = bytes / width;
+    const short format = fmt();
+    int* ints = m_intScratch.data();
+    switch (width) {
+    case 1:
+        Util::convertRawTo8U(m_rawScratch.data(), ints, got);
+        if (format == Settings::Unsigned8)
+            Util::convert8UToFloat(ints, samples, got);
+        else
+            Util::convert8ToFloat(ints, samples, got);
+        break;
+    case 2:
+        Util::convertRawTo16U(m_rawScratch.data(), ints, got,
+            format == Settings::LittleEndianUnsigned16 || format == Settings::LittleEndianSigned16);
+        if (format == Settings::LittleEndianUnsigned16 || format == Settings::BigEndianUnsigned16)
+            Util::convert16UToFloat(ints, samples, got);
+        else
+            Util::convert16ToFloat(ints, samples, got);
+        break;
+    default:
+        Util::convertRawTo24U(m_rawScratch.data(), ints, got, format == Settings::Signed24Swapped);
+        Util::convert24ToFloat(ints, samples, got);
+        break;
+    }
+    return got;
+}
+
+int FileInput::readChannel(float* target, int frames, int channel)
+{
+    const int channelCount = channels();
+    if (channel >= channelCount || channel < 0 || frames <= 0)
+        return channel >= channelCount || channel < 0 ? -1 : 0;
+    m_floatScratch.resize(static_cast<size_t>(frames) * static_cast<size_t>(channelCount));
+    const int samples = read(m_floatScratch.data(), frames * channelCount);
+    const int got = samples / channelCount;
+    for (int i = 0; i < got; ++i)
+        target[i] = m_floatScratch[static_cast<size_t>(i * channelCount + channel)];
+    return got;
+}
+
+int FileInput::seek(int bytes)
+{
+    if (!m_file)
+        return -1;
+    return fseeko(m_file, static_cast<off_t>(m_fileInfo.dataOffset()) + 8 + bytes, SEEK_SET);
+}
+
+long FileInput::tell()
+{
+    if (!m_file)
+        return 0;
+    return static_cast<long>(ftello(m_file) - (static_cast<long long>(m_fileInfo.dataOffset()) + 8));
+}
+
+void FileInput::flush()
+{
+    if (m_file)
+        std::fflush(m_file);
+}
+
+void FileInput::rewind()
+{
+    seek(0);
+}
+
+long long FileInput::position()
+{
+    return m_file ? ftello(m_file) : 0;
+}
+
+void FileInput::gotoFrame(const int& frame, const int& channels)
+{
+    seek(frame * channels * (bitsPerSample() / 8));
+}
+
+void FileInput::gotoFrame(const int& frame)
+{
+    gotoFrame(frame, channels());
+}
+
+int FileInput::readFrames(const int& frame, float* target, const int& frames, const int& channels)
+{
+    gotoFrame(frame, channels);
+    return readFrames(target, frames, channels);
+}
+
+int FileInput::readFrames(float* target, const int& frames, const int& channels)
+{
+    if (channels < 1)
+        return 0;
+    return read(target, frames * channels) / channels;
+}
+
+bool FileInput::saveEbuInfo(const char* path)
+{
+    return !m_ebuInfo.isNull() && m_ebuInfo->save(path);
+}
+
+bool FileInput::loadEbuInfo(const char* path)
+{
+    if (m_ebuInfo.isNull())
+        m_ebuInfo = MTools::Handle<EBUInfo>(new EBUInfo);
+    return m_ebuInfo->load(path);
+}
+
+MTools::Handle<EBUInfo> FileInput::ebuInfo() const
+{
+    return m_ebuInfo;
+}
+
+FileInfo FileInput::fileInfo() const
+{
+    return m_fileInfo;
+}
+
+QString FileInput::extentions() const
+{
+    return QString();
+}
+
+FILE* FileInput::filePointer() const
+{
+    return m_file;
+}
+
+int FileInput::close()
+{
+    if (!m_file)
+        return 0;
+    const int result = std::fclose(m_file);
+    m_file = nullptr;
+    return result;
+}
+
+QString FileInput::scene() const
+{
+    return m_ebuInfo.isNull() ? QString() : m_ebuInfo->scene();
+}
+
+QString FileInput::take() const
+{
+    return m_ebuInfo.isNull() ? QString() : m_ebuInfo->take();
+}
+
+void FileInput::dropFile()
+{
+    close();
+}
+
+QByteArray FileInput::readText(long long bytes)
+{
+    QByteArray text;
+    char piece[4096];
+    while (bytes > 0 && m_file) {
+        const size_t wanted = static_cast<size_t>(std::min<long long>(bytes, sizeof piece));
+        const size_t got = std::fread(piece, 1, wanted, m_file);
+        text.append(piece, static_cast<int>(got));
+        if (got < wanted)
+            break;
+        bytes -= static_cast<long long>(got);
+    }
+    return text;
+}
+
+} // namespace Audio

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "BaseInput.h"
+#include "Chunk.h"
+
+#include "Common/AudioFloatBuffer.h"
+#include "Common/EBUInfo.h"
+#include "Common/FileInfo.h"
+#include "Common/RawBuffer.h"
+
+#include "Handle.h"
+
+#include <QList>
+#include <QString>
+
+#include <cstdio>
+#include <vector>
+
+namespace Audio {
+
+// Everything of an audio file reader that does not depend on the container: the
+// stream, the reads of bytes, samples and frames within the audio, and the file's
+// broadcast info. Subclasses walk the chunks in open().
+class FileInput : public BaseInput
+{
+public:
+    FileInput();
+    ~FileInput() override;
+
+    // The inputs that exist now, in order of construction.
+    static const QList<FileInput*>& filesInUse();
+    static void setTempPath(const QString& path);
+    static QString tempPath();
+
+    short fmt() const override;
+    // Reads a chunk header; swapSize reverses the size bytes (AIFF). Gives the bytes
+    // read, or -1 without a file.
+    virtual int readChunk(Chunk* chunk, int swapSize);
+    virtual bool open(const char* path);
+    // Checks the path (extension unless ignored, a regular file of at least 40 bytes)
+    // and opens it.
+    virtual bool load(const char* path, bool ignoreExtension = false);
+
+    // Bytes of audio; never what lies behind it.
+    virtual int read(char* buffer, int bytes);
+    virtual int read(MTools::Handle<RawBuffer> buffer);
+    // Frames, as many as the buffer holds.
+    virtual int read(MTools::Handle<AudioFloatBuffer> buffer);
+    virtual int read(MTools::Handle<AudioFloatBuffer> buffer, unsigned long frames);
+    // Samples over all channels.
+    virtual int read(float* samples, int count);
+    // Frames of one channel, or -1 for a channel the file does not have.
+    virtual int readChannel(float* target, int frames, int channel);
+    // To the start of the audio plus `bytes`.
+    virtual int seek(int bytes);
+    // The position relative to the start of the audio.
+    virtual long tell();
+    virtual void flush();
+    virtual void rewind();
+    // The absolute position in the file.
+    virtual long long position();
+    virtual void gotoFrame(const int& frame, const int& channels);
+    virtual void gotoFrame(const int& frame);
+    virtual int readFrames(const int& frame, float* target, const int& frames, const int& channels);
+    virtual int readFrames(float* target, const int& frames, const int& channels);
+    virtual bool saveEbuInfo(const char* path);
+    virtual bool loadEbuInfo(const char* path);
+    virtual MTools::Handle<EBUInfo> ebuInfo() const;
+    virtual FileInfo fileInfo() const;
+    // The file name endings the reader takes, separated by blanks.
+    virtual QString extentions() const;
+    virtual FILE* filePointer() const;
+    virtual int close();
+
+    QString scene() const;
+    QString take() const;
+
+protected:
+    // Forgets the stream of a file that failed to open.
+    void dropFile();
+    // Reads `bytes` bytes (at most what the file still holds) as text.
+    QByteArray readText(long long bytes);
+
+    FileInfo m_fileInfo;
+    MTools::Handle<EBUInfo> m_ebuInfo;
+    FILE* m_file = nullptr;
+    long long m_endOfAudio = 0;
+    long long m_lastPosition = 0;
+
+private:
+    std::vector<char> m_rawScratch;
+    std::vector<int> m_intScratch;
+    std::vector<float> m_floatScratch;
+};
+
+} // namespace Audio

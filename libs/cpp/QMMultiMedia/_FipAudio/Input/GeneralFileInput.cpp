@@ -1,0 +1,181 @@
+#include "GeneralFileInput.h"
+
+#include "AiffInput.h"
+#include "WaveInput.h"
+
+namespace Audio {
+
+bool GeneralFileInput::load(const char* path, bool ignoreExtension)
+{
+    m_input.reset();
+    MTools::Handle<FileInput> input(new WaveInput);
+    if (!input->load(path, ignoreExtension)) {
+        input = MTools::Handle<FileInput>(new AiffInput);
+        if (!input->load(path, ignoreExtension))
+            return false;
+    }
+    m_input = input;
+    setSettings(m_input->settings());
+    m_fileInfo = m_input->fileInfo();
+    m_fileInfo.setUrl(m_input->fileInfo().url());
+    m_ebuInfo = m_input->ebuInfo();
+    return true;
+}
+
+bool GeneralFileInput::open(const char*)
+{
+    return false;
+}
+
+GeneralFileInput::FileFormat GeneralFileInput::fileFormat() const
+{
+    const QString reader = name();
+    if (reader == QLatin1String("WaveInput"))
+        return Wave;
+    if (reader == QLatin1String("AiffInput"))
+        return Aiff;
+    return Unknown;
+}
+
+QString GeneralFileInput::formatString() const
+{
+    switch (fileFormat()) {
+    case Wave:
+        return m_input->ebuInfo().isNull() ? QStringLiteral("WAVE") : QStringLiteral("BWF");
+    case Aiff:
+        return QStringLiteral("AIFF");
+    default:
+        return QStringLiteral("UNKNOWN");
+    }
+}
+
+QString GeneralFileInput::name() const
+{
+    return m_input.isNull() ? QString() : m_input->name();
+}
+
+short GeneralFileInput::fmt() const
+{
+    return m_input.isNull() ? 0 : m_input->fmt();
+}
+
+int GeneralFileInput::readChunk(Chunk* chunk, int swapSize)
+{
+    return m_input.isNull() ? 0 : m_input->readChunk(chunk, swapSize);
+}
+
+int GeneralFileInput::read(char* buffer, int bytes)
+{
+    return m_input.isNull() ? 0 : m_input->read(buffer, bytes);
+}
+
+int GeneralFileInput::read(MTools::Handle<RawBuffer> buffer)
+{
+    return m_input.isNull() ? 0 : m_input->read(buffer);
+}
+
+int GeneralFileInput::read(MTools::Handle<AudioFloatBuffer> buffer)
+{
+    return m_input.isNull() ? 0 : m_input->read(buffer);
+}
+
+int GeneralFileInput::read(MTools::Handle<AudioFloatBuffer> buffer, unsigned long frames)
+{
+    return m_input.isNull() ? 0 : m_input->read(buffer, frames);
+}
+
+int GeneralFileInput::read(float* samples, int count)
+{
+    return m_input.isNull() ? 0 : m_input->read(samples, count);
+}
+
+int GeneralFileInput::readChannel(float* target, int frames, int channel)
+{
+    return m_input.isNull() ? 0 : m_input->readChannel(target, frames, channel);
+}
+
+int GeneralFileInput::seek(int bytes)
+{
+    return m_input.isNull() ? 0 : m_input->seek(bytes);
+}
+
+long GeneralFileInput::tell()
+{
+    return m_input.isNull() ? 0 : m_input->tell();
+}
+
+void GeneralFileInput::flush()
+{
+    if (!m_input.isNull())
+        m_input->flush();
+}
+
+void GeneralFileInput::rewind()
+{
+    if (!m_input.isNull())
+        m_input->rewind();
+}
+
+long long GeneralFileInput::position()
+{
+    return m_input.isNull() ? 0 : m_input->position();
+}
+
+void GeneralFileInput::gotoFrame(const int& frame, const int& channels)
+{
+    if (!m_input.isNull())
+        m_input->gotoFrame(frame, channels);
+}
+
+void GeneralFileInput::gotoFrame(const int& frame)
+{
+    if (!m_input.isNull())
+        m_input->gotoFrame(frame);
+}
+
+int GeneralFileInput::readFrames(const int& frame, float* target, const int& frames, const int& channels)
+{
+    return m_input.isNull() ? 0 : m_input->readFrames(frame, target, frames, channels);
+}
+
+int GeneralFileInput::readFrames(float* target, const int& frames, const int& channels)
+{
+    return m_input.isNull() ? 0 : m_input->readFrames(target, frames, channels);
+}
+
+bool GeneralFileInput::saveEbuInfo(const char* path)
+{
+    return !m_input.isNull() && m_input->saveEbuInfo(path);
+}
+
+bool GeneralFileInput::loadEbuInfo(const char* path)
+{
+    return !m_input.isNull() && m_input->loadEbuInfo(path);
+}
+
+MTools::Handle<EBUInfo> GeneralFileInput::ebuInfo() const
+{
+    return m_input.isNull() ? MTools::Handle<EBUInfo>() : m_input->ebuInfo();
+}
+
+FileInfo GeneralFileInput::fileInfo() const
+{
+    return m_input.isNull() ? FileInfo() : m_input->fileInfo();
+}
+
+QString GeneralFileInput::extentions() const
+{
+    return m_input.isNull() ? QString() : m_input->extentions();
+}
+
+FILE* GeneralFileInput::filePointer() const
+{
+    return m_input.isNull() ? nullptr : m_input->filePointer();
+}
+
+int GeneralFileInput::close()
+{
+    return m_input.isNull() ? 0 : m_input->close();
+}
+
+} // namespace Audio
