@@ -192,6 +192,11 @@ int FileInput::readChannel(float* target, int frames, int channel)
 
 int FileInput::seek(int bytes)
 {
+    return seekInAudio(bytes);
+}
+
+int FileInput::seekInAudio(long long bytes)
+{
     if (!m_file)
         return -1;
     return fseeko(m_file, static_cast<off_t>(m_fileInfo.dataOffset()) + 8 + bytes, SEEK_SET);
@@ -222,7 +227,7 @@ long long FileInput::position()
 
 void FileInput::gotoFrame(const int& frame, const int& channels)
 {
-    seek(frame * channels * (bitsPerSample() / 8));
+    seekInAudio(static_cast<long long>(frame) * channels * (bitsPerSample() / 8));
 }
 
 void FileInput::gotoFrame(const int& frame)

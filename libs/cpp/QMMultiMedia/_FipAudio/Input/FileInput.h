@@ -76,6 +76,8 @@ public:
     QString take() const;
 
 protected:
+    // To the start of the audio plus `bytes`, without the limits of an int.
+    int seekInAudio(long long bytes);
     // Forgets the stream of a file that failed to open.
     void dropFile();
     // Reads `bytes` bytes (at most what the file still holds) as text.
