@@ -4,11 +4,14 @@
 #include "Common/Util.h"
 
 #include <QDebug>
+#include <QDir>
+#include <QFile>
 #include <QUrl>
 
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 
 namespace Audio {
@@ -248,6 +251,185 @@ int FileInput::readFrames(float* target, const int& frames, const int& channels)
     return read(target, frames * channels) / channels;
 }
 
+void FileInput::createPeakVector()
+{
+    if (!m_envelope.isNull()) {
+        const long long dataEnd = static_cast<long long>(m_fileInfo.dataOffset()) + 8
+            + ((static_cast<long long>(m_fileInfo.dataSize()) + 1) & ~1LL);
+        buildPeakVectorFromChunk(m_file, static_cast<long>(dataEnd + m_envelope->offsetToPeaks()));
+        return;
+    }
+    m_envelope = MTools::Handle<EBUEnvelope>(new EBUEnvelope);
+    const QString location = envelopeLocation();
+    if (QFile::exists(location)) {
+        loadEnvelope(QFile::encodeName(location).constData());
+        return;
+    }
+    buildPeakVectorFromAudioData();
+    rewind();
+    const QString folder = tempPath() + QLatin1Char('/') + m_envelopeFolder;
+    if (!QFileInfo::exists(folder))
+        ::mkdir(QFile::encodeName(folder).constData(), 511);
+    saveEnvelope(QFile::encodeName(location).constData(), EBUEnvelope::UnsignedShort);
+}
+
+PeakInfo FileInput::computePeak(int frame, int count, int ch)
+{
+    gotoFrame(frame);
+    std::vector<float> samples(static_cast<size_t>(std::max(count, 1)));
+    const int got = readChannel(samples.data(), count, ch);
+    float minimum = 0.0f;
+    float maximum = 0.0f;
+    for (int i = 0; i < got; ++i) {
+        minimum = std::min(minimum, samples[static_cast<size_t>(i)]);
+        maximum = std::max(maximum, samples[static_cast<size_t>(i)]);
+    }
+    return PeakInfo(minimum, maximum);
+}
+
+PeakInfo FileInput::peakInfo(int x, int ch, float zoom)
+{
+    if (m_peakVector.isNull() || m_peakVector->isEmpty() || ch < 0 || ch >= PeakVector::maximumChannels)
+        return PeakInfo();
+    const float blockSize = static_cast<float>(m_peakBlockSize);
+    PeakInfo peak;
+    if (zoom >= blockSize) {
+        const int index = zoom == blockSize ? x : static_cast<int>(static_cast<float>(x) * (zoom / blockSize));
+        const PeakVector& peaks = *m_peakVector;
+        if (index >= 0 && ch < peaks.peakChannels()
+            && static_cast<size_t>(index) < m_peakVector->peakInfoVector(ch).size())
+            peak = peaks.peakInfo(index, ch);
+    } else if (zoom > 1.0f) {
+        const PeakInfo* cached = m_peakCache.find(x, ch, zoom);
+        if (cached) {
+            peak = *cached;
+        } else {
+            peak = computePeak(static_cast<int>(static_cast<float>(x) * zoom), static_cast<int>(zoom), ch);
+            m_peakCache.insert(x, ch, zoom, peak);
+        }
+    } else {
+        const int frame = zoom == 1.0f ? x : static_cast<int>(static_cast<float>(x) * zoom);
+        gotoFrame(frame);
+        float sample = 0.0f;
+        if (readChannel(&sample, 1, ch) != 1)
+            sample = 0.0f;
+        peak = PeakInfo(sample, 0.0f);
+    }
+    m_peakMinimum = peak.first();
+    m_peakMaximum = peak.second();
+    return peak;
+}
+
+bool FileInput::saveEnvelope(const char* path, const EBUEnvelope::Format& format)
+{
+    if (m_envelope.isNull())
+        m_envelope = MTools::Handle<EBUEnvelope>(new EBUEnvelope);
+    if (m_peakVector.isNull())
+        m_peakVector = MTools::Handle<PeakVector>(new PeakVector);
+    return m_envelope->save(path, *m_peakVector, format);
+}
+
+bool FileInput::loadEnvelope(const char* path)
+{
+    if (m_envelope.isNull())
+        m_envelope = MTools::Handle<EBUEnvelope>(new EBUEnvelope);
+    if (m_peakVector.isNull())
+        m_peakVector = MTools::Handle<PeakVector>(new PeakVector);
+    if (!m_envelope->load(path, *m_peakVector))
+        return false;
+    if (m_envelope->blockSize() > 0)
+        m_peakBlockSize = m_envelope->blockSize();
+    return true;
+}
+
+bool FileInput::buildPeakVectorFromChunk(FILE* file, const long& position)
+{
+    if (!file || m_envelope.isNull())
+        return false;
+    if (m_peakVector.isNull())
+        m_peakVector = MTools::Handle<PeakVector>(new PeakVector);
+    const long long place = ftello(file);
+    const bool ok = m_envelope->readPeaks(file, position, *m_peakVector);
+    fseeko(file, place, SEEK_SET);
+    if (ok && m_envelope->blockSize() > 0)
+        m_peakBlockSize = m_envelope->blockSize();
+    return ok;
+}
+
+void FileInput::buildPeakVectorFromAudioData()
+{
+    if (m_peakVector.isNull())
+        m_peakVector = MTools::Handle<PeakVector>(new PeakVector);
+    m_peakVector->clear();
+    const int channelCount = channels();
+    if (channelCount < 1 || channelCount > PeakVector::maximumChannels)
+        return;
+    m_peakBlockSize = 256;
+    rewind();
+    std::vector<float> block(static_cast<size_t>(m_peakBlockSize * channelCount));
+    float peakOfPeaks = 0.0f;
+    int frame = 0;
+    for (int got = readFrames(block.data(), m_peakBlockSize, channelCount); got > 0;
+         got = readFrames(block.data(), m_peakBlockSize, channelCount)) {
+        for (int ch = 0; ch < channelCount; ++ch) {
+            float minimum = 0.0f;
+            float maximum = 0.0f;
+            for (int i = 0; i < got; ++i) {
+                const float x = block[static_cast<size_t>(i * channelCount + ch)];
+                minimum = std::min(minimum, x);
+                maximum = std::max(maximum, x);
+                if (std::fabs(x) > peakOfPeaks) {
+                    peakOfPeaks = std::fabs(x);
+                    if (!m_envelope.isNull())
+                        m_envelope->setPosPeakOfPeaks(frame + i);
+                }
+            }
+            m_peakVector->addPeak(minimum, maximum, ch);
+        }
+        frame += got;
+    }
+}
+
+float FileInput::peakMinimum() const
+{
+    return m_peakMinimum;
+}
+
+float FileInput::peakMaximum() const
+{
+    return m_peakMaximum;
+}
+
+QString FileInput::envelopeLocation() const
+{
+    QString name = m_fileInfo.url().toLocalFile();
+    name.replace(QLatin1Char('/'), QLatin1Char('_'))
+        .replace(QLatin1Char(':'), QLatin1Char('_'))
+        .replace(QLatin1Char('.'), QLatin1Char('_'));
+    return tempPath() + QLatin1Char('/') + m_envelopeFolder + QLatin1Char('/') + name + QStringLiteral(".bef");
+}
+
+QString FileInput::tempFilePath()
+{
+    return tempPath() + QStringLiteral("/AudioTemp/");
+}
+
+QString FileInput::tempFilePathAndName() const
+{
+    QString name = m_fileInfo.url().toLocalFile();
+    name.replace(QLatin1Char('/'), QLatin1Char('_'))
+        .replace(QLatin1Char(':'), QLatin1Char('_'))
+        .replace(QLatin1Char('.'), QLatin1Char('_'));
+    return tempFilePath() + name;
+}
+
+float FileInput::calculateZoom(int width) const
+{
+    if (width <= 0 || channels() < 1)
+        return 0.0f;
+    return static_cast<float>(m_fileInfo.numSamples()) / static_cast<float>(channels()) / static_cast<float>(width);
+}
+
 bool FileInput::saveEbuInfo(const char* path)
 {
     return !m_ebuInfo.isNull() && m_ebuInfo->save(path);
@@ -263,6 +445,16 @@ bool FileInput::loadEbuInfo(const char* path)
 MTools::Handle<EBUInfo> FileInput::ebuInfo() const
 {
     return m_ebuInfo;
+}
+
+MTools::Handle<EBUEnvelope> FileInput::ebuEnvelope() const
+{
+    return m_envelope;
+}
+
+MTools::Handle<PeakVector> FileInput::peakVector() const
+{
+    return m_peakVector;
 }
 
 FileInfo FileInput::fileInfo() const

@@ -4,8 +4,11 @@
 #include "Chunk.h"
 
 #include "Common/AudioFloatBuffer.h"
+#include "Common/EBUEnvelope.h"
 #include "Common/EBUInfo.h"
 #include "Common/FileInfo.h"
+#include "Common/PeakInfoCache.h"
+#include "Common/PeakVector.h"
 #include "Common/RawBuffer.h"
 
 #include "Handle.h"
@@ -19,8 +22,8 @@
 namespace Audio {
 
 // Everything of an audio file reader that does not depend on the container: the
-// stream, the reads of bytes, samples and frames within the audio, and the file's
-// broadcast info. Subclasses walk the chunks in open().
+// stream, the reads of bytes, samples and frames within the audio, the file's
+// broadcast info and its peak envelope. Subclasses walk the chunks in open().
 class FileInput : public BaseInput
 {
 public:
@@ -37,6 +40,12 @@ public:
     // read, or -1 without a file.
     virtual int readChunk(Chunk* chunk, int swapSize);
     virtual bool open(const char* path);
+    // The peaks of the file: from its "levl" chunk, else from the ".bef" file in the
+    // temporary folder, else computed from the audio and kept there.
+    virtual void createPeakVector();
+    // The peak of display column x of a channel at `zoom` samples a column; also kept
+    // as the current peak minimum and maximum. Nothing (zeros) without peaks.
+    virtual PeakInfo peakInfo(int x, int ch, float zoom);
     // Checks the path (extension unless ignored, a regular file of at least 40 bytes)
     // and opens it.
     virtual bool load(const char* path, bool ignoreExtension = false);
@@ -63,17 +72,35 @@ public:
     virtual void gotoFrame(const int& frame);
     virtual int readFrames(const int& frame, float* target, const int& frames, const int& channels);
     virtual int readFrames(float* target, const int& frames, const int& channels);
+    virtual bool saveEnvelope(const char* path, const EBUEnvelope::Format& format);
+    // A ".bef" file: its header becomes the envelope and its peaks the peak vector.
+    virtual bool loadEnvelope(const char* path);
     virtual bool saveEbuInfo(const char* path);
     virtual bool loadEbuInfo(const char* path);
     virtual MTools::Handle<EBUInfo> ebuInfo() const;
+    virtual MTools::Handle<EBUEnvelope> ebuEnvelope() const;
     virtual FileInfo fileInfo() const;
     // The file name endings the reader takes, separated by blanks.
     virtual QString extentions() const;
+    virtual MTools::Handle<PeakVector> peakVector() const;
     virtual FILE* filePointer() const;
     virtual int close();
 
     QString scene() const;
     QString take() const;
+
+    // The ".bef" file of this file: the path with "/", ":" and "." made "_", in the
+    // folder "Envelopes" of the temporary path.
+    QString envelopeLocation() const;
+    static QString tempFilePath();
+    QString tempFilePathAndName() const;
+    // Samples of a channel per column when the file fills `width` columns.
+    float calculateZoom(int width) const;
+    bool buildPeakVectorFromChunk(FILE* file, const long& position);
+    // Minimum and maximum of each block of 256 frames and channel.
+    void buildPeakVectorFromAudioData();
+    float peakMinimum() const;
+    float peakMaximum() const;
 
 protected:
     // To the start of the audio plus `bytes`, without the limits of an int.
@@ -85,11 +112,21 @@ protected:
 
     FileInfo m_fileInfo;
     MTools::Handle<EBUInfo> m_ebuInfo;
+    MTools::Handle<EBUEnvelope> m_envelope;
     FILE* m_file = nullptr;
     long long m_endOfAudio = 0;
+    MTools::Handle<PeakVector> m_peakVector;
+    float m_peakMinimum = 0.0f;
+    float m_peakMaximum = 0.0f;
+    PeakInfoCache m_peakCache { 6000 };
+    int m_peakBlockSize = 256;
     long long m_lastPosition = 0;
+    QString m_envelopeFolder = QStringLiteral("Envelopes");
 
 private:
+    // Minimum and maximum of `count` frames of a channel from `frame`, from 0 on both sides.
+    PeakInfo computePeak(int frame, int count, int ch);
+
     std::vector<char> m_rawScratch;
     std::vector<int> m_intScratch;
     std::vector<float> m_floatScratch;

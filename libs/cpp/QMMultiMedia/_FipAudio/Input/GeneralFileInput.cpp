@@ -19,6 +19,7 @@ bool GeneralFileInput::load(const char* path, bool ignoreExtension)
     m_fileInfo = m_input->fileInfo();
     m_fileInfo.setUrl(m_input->fileInfo().url());
     m_ebuInfo = m_input->ebuInfo();
+    m_envelope = m_input->ebuEnvelope();
     return true;
 }
 
@@ -62,6 +63,37 @@ short GeneralFileInput::fmt() const
 int GeneralFileInput::readChunk(Chunk* chunk, int swapSize)
 {
     return m_input.isNull() ? 0 : m_input->readChunk(chunk, swapSize);
+}
+
+void GeneralFileInput::createPeakVector()
+{
+    if (!m_input.isNull())
+        m_input->createPeakVector();
+}
+
+PeakInfo GeneralFileInput::peakInfo(int x, int ch, float zoom)
+{
+    return m_input.isNull() ? PeakInfo() : m_input->peakInfo(x, ch, zoom);
+}
+
+bool GeneralFileInput::saveEnvelope(const char* path, const EBUEnvelope::Format& format)
+{
+    return !m_input.isNull() && m_input->saveEnvelope(path, format);
+}
+
+bool GeneralFileInput::loadEnvelope(const char* path)
+{
+    return !m_input.isNull() && m_input->loadEnvelope(path);
+}
+
+MTools::Handle<EBUEnvelope> GeneralFileInput::ebuEnvelope() const
+{
+    return m_input.isNull() ? MTools::Handle<EBUEnvelope>() : m_input->ebuEnvelope();
+}
+
+MTools::Handle<PeakVector> GeneralFileInput::peakVector() const
+{
+    return m_input.isNull() ? MTools::Handle<PeakVector>() : m_input->peakVector();
 }
 
 int GeneralFileInput::read(char* buffer, int bytes)

@@ -27,6 +27,12 @@ public:
     QString name() const override;
     short fmt() const override;
     int readChunk(Chunk* chunk, int swapSize) override;
+    void createPeakVector() override;
+    PeakInfo peakInfo(int x, int ch, float zoom) override;
+    bool saveEnvelope(const char* path, const EBUEnvelope::Format& format) override;
+    bool loadEnvelope(const char* path) override;
+    MTools::Handle<EBUEnvelope> ebuEnvelope() const override;
+    MTools::Handle<PeakVector> peakVector() const override;
     int read(char* buffer, int bytes) override;
     int read(MTools::Handle<RawBuffer> buffer) override;
     int read(MTools::Handle<AudioFloatBuffer> buffer) override;

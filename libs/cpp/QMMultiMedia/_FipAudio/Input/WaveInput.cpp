@@ -54,6 +54,8 @@ bool WaveInput::walkChunks()
             dataFound = true;
         } else if (chunk.is("bext")) {
             readEbuInfoChunk(chunk.size);
+        } else if (chunk.is("levl")) {
+            readEbuEnvelopeChunk(chunk.size);
         } else {
             skip(padded(chunk.size));
         }
@@ -137,6 +139,15 @@ void WaveInput::readEbuInfoChunk(unsigned int size)
     // A chunk shorter than its fixed part leaves the stream where the fields ended.
     if (size >= static_cast<unsigned int>(EBUInfo::fixedSize))
         fseeko(m_file, start + padded(size), SEEK_SET);
+}
+
+void WaveInput::readEbuEnvelopeChunk(unsigned int size)
+{
+    m_envelope = MTools::Handle<EBUEnvelope>(new EBUEnvelope);
+    m_envelope->setChunkSize(static_cast<int>(padded(size)));
+    m_envelope->initFromHeader(m_file);
+    // An envelope is the last chunk of a file: the walk goes on past its end.
+    skip((static_cast<long long>(m_envelope->chunkSize()) + 57) & ~1LL);
 }
 
 void WaveInput::skip(long long bytes)

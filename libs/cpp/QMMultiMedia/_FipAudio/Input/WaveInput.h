@@ -5,7 +5,7 @@
 namespace Audio {
 
 // Reader of wave and broadcast wave files: walks the RIFF chunks ("fmt ", "data",
-// "LIST"/"INFO"/"ICMT", "bext") and takes PCM audio of 8, 16, 24 and 32 bits.
+// "LIST"/"INFO"/"ICMT", "bext", "levl") and takes PCM audio of 8, 16, 24 and 32 bits.
 class WaveInput : public FileInput
 {
 public:
@@ -21,6 +21,7 @@ private:
     bool readFmtChunk(unsigned int size);
     void initDataChunk(unsigned int size);
     void readEbuInfoChunk(unsigned int size);
+    void readEbuEnvelopeChunk(unsigned int size);
     // Moves the stream forward by `bytes`.
     void skip(long long bytes);
 

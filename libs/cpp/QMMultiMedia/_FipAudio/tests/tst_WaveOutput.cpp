@@ -115,7 +115,7 @@ void tst_WaveOutput::libsndfileReadsWhatWasWritten()
     QCOMPARE(static_cast<int>(format.frames), frames);
     const int subtype = bits == 8 ? SF_FORMAT_PCM_U8 : bits == 16 ? SF_FORMAT_PCM_16 : SF_FORMAT_PCM_24;
     QCOMPARE(format.format, SF_FORMAT_WAV | subtype);
-    std::vector<int> read(samples.size() + 1);
+    std::vector<int> read(samples.size() + static_cast<size_t>(channels));
     QCOMPARE(static_cast<int>(sf_readf_int(file, read.data(), frames + 1)), frames);
     for (size_t i = 0; i < samples.size(); ++i) {
         if (read[i] != expectedInt(samples[i], bits))
