@@ -1,6 +1,7 @@
 #include "FileInput.h"
 
 #include "Common/FileUtil.h"
+#include "Common/Production.h"
 #include "Common/Util.h"
 
 #include <QDebug>
@@ -479,6 +480,60 @@ int FileInput::close()
     const int result = std::fclose(m_file);
     m_file = nullptr;
     return result;
+}
+
+MTools::Handle<LTCDecoder> FileInput::ltcDecoder()
+{
+    if (m_ltcDecoder.isNull())
+        m_ltcDecoder = MTools::Handle<LTCDecoder>(new LTCDecoder(this));
+    return m_ltcDecoder;
+}
+
+void FileInput::createLTCData(const int& track)
+{
+    ltcDecoder()->process(track);
+}
+
+const LTCData& FileInput::getLTC(const int& audioFrame)
+{
+    return ltcDecoder()->getLTC(audioFrame);
+}
+
+int FileInput::getAudioFrameLTC(int h, int m, int s, int f)
+{
+    return ltcDecoder()->getAudioFrame(h, m, s, f);
+}
+
+int FileInput::getAudioFrameLTC(const QString& timecode)
+{
+    const QString digits = timecode.trimmed();
+    if (digits.size() != 11)
+        return -1;
+    const auto part = [&digits](int at) { return digits.midRef(at, 2).toInt(); };
+    return getAudioFrameLTC(part(0), part(3), part(6), part(9));
+}
+
+bool FileInput::isLTCDataAvailable()
+{
+    return ltcDecoder()->isLTCDataAvailable();
+}
+
+int FileInput::getLTCTrack()
+{
+    return ltcDecoder()->getLTCTrack();
+}
+
+QString FileInput::ltcTimeCode(const int& audioFrame, bool userBits)
+{
+    float fps = m_ebuInfo.isNull() ? 0.0f : m_ebuInfo->fps();
+    if (static_cast<int>(fps) == 0)
+        fps = Production::fps();
+    return ltcDecoder()->getLTC(audioFrame).timecode(fps, userBits);
+}
+
+float FileInput::ltcFps()
+{
+    return ltcDecoder()->ltcFps();
 }
 
 QString FileInput::scene() const

@@ -2,6 +2,7 @@
 
 #include "BaseInput.h"
 #include "Chunk.h"
+#include "LTCDecoder.h"
 
 #include "Common/AudioFloatBuffer.h"
 #include "Common/EBUEnvelope.h"
@@ -85,6 +86,17 @@ public:
     virtual MTools::Handle<PeakVector> peakVector() const;
     virtual FILE* filePointer() const;
     virtual int close();
+    // The timecode of an LTC track, through a decoder made on first use.
+    virtual void createLTCData(const int& track);
+    virtual const LTCData& getLTC(const int& audioFrame);
+    virtual int getAudioFrameLTC(int h, int m, int s, int f);
+    // "hh:mm:ss:ff", any separators.
+    virtual int getAudioFrameLTC(const QString& timecode);
+    virtual bool isLTCDataAvailable();
+    virtual int getLTCTrack();
+    virtual QString ltcTimeCode(const int& audioFrame, bool userBits);
+    virtual float ltcFps();
+    MTools::Handle<LTCDecoder> ltcDecoder();
 
     QString scene() const;
     QString take() const;
@@ -113,6 +125,7 @@ protected:
     FileInfo m_fileInfo;
     MTools::Handle<EBUInfo> m_ebuInfo;
     MTools::Handle<EBUEnvelope> m_envelope;
+    MTools::Handle<LTCDecoder> m_ltcDecoder;
     FILE* m_file = nullptr;
     long long m_endOfAudio = 0;
     MTools::Handle<PeakVector> m_peakVector;

@@ -211,3 +211,49 @@ int GeneralFileInput::close()
 }
 
 } // namespace Audio
+
+namespace Audio {
+
+void GeneralFileInput::createLTCData(const int& track)
+{
+    if (!m_input.isNull())
+        m_input->createLTCData(track);
+}
+
+const LTCData& GeneralFileInput::getLTC(const int& audioFrame)
+{
+    static const LTCData none(-1, QString(), 30.0f);
+    return m_input.isNull() ? none : m_input->getLTC(audioFrame);
+}
+
+int GeneralFileInput::getAudioFrameLTC(int h, int m, int s, int f)
+{
+    return m_input.isNull() ? -1 : m_input->getAudioFrameLTC(h, m, s, f);
+}
+
+int GeneralFileInput::getAudioFrameLTC(const QString& timecode)
+{
+    return m_input.isNull() ? -1 : m_input->getAudioFrameLTC(timecode);
+}
+
+bool GeneralFileInput::isLTCDataAvailable()
+{
+    return !m_input.isNull() && m_input->isLTCDataAvailable();
+}
+
+int GeneralFileInput::getLTCTrack()
+{
+    return m_input.isNull() ? -1 : m_input->getLTCTrack();
+}
+
+QString GeneralFileInput::ltcTimeCode(const int& audioFrame, bool userBits)
+{
+    return m_input.isNull() ? QString() : m_input->ltcTimeCode(audioFrame, userBits);
+}
+
+float GeneralFileInput::ltcFps()
+{
+    return m_input.isNull() ? 0.0f : m_input->ltcFps();
+}
+
+} // namespace Audio

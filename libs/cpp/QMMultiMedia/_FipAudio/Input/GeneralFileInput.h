@@ -55,6 +55,14 @@ public:
     QString extentions() const override;
     FILE* filePointer() const override;
     int close() override;
+    void createLTCData(const int& track) override;
+    const LTCData& getLTC(const int& audioFrame) override;
+    int getAudioFrameLTC(int h, int m, int s, int f) override;
+    int getAudioFrameLTC(const QString& timecode) override;
+    bool isLTCDataAvailable() override;
+    int getLTCTrack() override;
+    QString ltcTimeCode(const int& audioFrame, bool userBits) override;
+    float ltcFps() override;
 
 private:
     MTools::Handle<FileInput> m_input;
