@@ -10,7 +10,7 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 seconds=${1:-600}
 build=${FUZZ_BUILD_DIR:-$root/build-fuzz}
-fipaudio_targets=(WaveInput AiffInput GeneralFileInput EBUInfo)
+fipaudio_targets=(WaveInput AiffInput GeneralFileInput EBUInfo EnvelopeFile LTCFile)
 targets=(${FUZZ_TARGETS:-AudioFileDecoder ${fipaudio_targets[*]}})
 
 CC=clang-14 CXX=clang++-14 cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \

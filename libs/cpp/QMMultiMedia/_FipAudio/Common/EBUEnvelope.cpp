@@ -14,8 +14,9 @@ namespace Audio {
 
 namespace {
 
-// Peak values written or read in one go.
+// Peak values written in one go, and read.
 constexpr int valuesPerBlock = 2048;
+constexpr int readValues = 65536;
 
 } // namespace
 
@@ -165,13 +166,17 @@ bool EBUEnvelope::readPeaks(FILE* file, long position, PeakVector& peaks) const
     }
     fseeko(file, position, SEEK_SET);
     peaks.clear();
-    std::vector<char> raw(static_cast<size_t>(valuesPerBlock) * 2);
-    std::vector<int> ints(valuesPerBlock);
+    for (int ch = 0; ch < m_peakChannels; ++ch)
+        peaks.peakInfoVector(ch).reserve(static_cast<size_t>(m_numPeakFrames));
+    // Whole peak frames a read, so that a read never splits the values of one frame.
+    const int frameValues = std::max(1, m_peakChannels * 2);
+    const int framesPerRead = std::max(1, readValues / frameValues);
+    std::vector<char> raw(static_cast<size_t>(framesPerRead * frameValues) * 2);
+    std::vector<int> ints(static_cast<size_t>(framesPerRead * frameValues));
     const float scale = m_format == UnsignedShort ? 1.0f / 65535.0f : 1.0f / 255.0f;
-    // Values come in pairs, so blocks of an even count keep the pairs whole.
-    long long index = 0;
-    while (index < values) {
-        const int count = static_cast<int>(std::min<long long>(valuesPerBlock, values - index));
+    for (int frame = 0; frame < m_numPeakFrames && m_peakChannels > 0; frame += framesPerRead) {
+        const int frames = std::min(framesPerRead, m_numPeakFrames - frame);
+        const int count = frames * frameValues;
         if (std::fread(raw.data(), static_cast<size_t>(width), static_cast<size_t>(count), file)
             != static_cast<size_t>(count)) {
             qWarning("It is not a valid EBUEnvelope file");
@@ -182,12 +187,11 @@ bool EBUEnvelope::readPeaks(FILE* file, long position, PeakVector& peaks) const
             Util::convertRawTo16U(raw.data(), ints.data(), count, true);
         else
             Util::convertRawTo8U(raw.data(), ints.data(), count);
-        for (int i = 0; i < count; i += 2) {
-            const long long pair = (index + i) / 2;
-            peaks.addPeak(ints[static_cast<size_t>(i)] * scale, -(ints[static_cast<size_t>(i) + 1] * scale),
-                static_cast<int>(pair % m_peakChannels));
+        const int* value = ints.data();
+        for (int f = 0; f < frames; ++f) {
+            for (int ch = 0; ch < m_peakChannels; ++ch, value += 2)
+                peaks.addPeak(value[0] * scale, -(value[1] * scale), ch);
         }
-        index += count;
     }
     return true;
 }

@@ -3,9 +3,12 @@
 #include "Common/EBUInfo.h"
 #include "Input/AiffInput.h"
 #include "Input/GeneralFileInput.h"
+#include "Input/LTCDecoder.h"
 #include "Input/WaveInput.h"
 
 #include <QByteArray>
+#include <QDir>
+#include <QFile>
 
 #include <unistd.h>
 
@@ -86,10 +89,51 @@ int aiffInput(const uint8_t* data, size_t size)
 int generalFileInput(const uint8_t* data, size_t size)
 {
     const QByteArray path = writeInput(data, size);
+    // The envelopes made on demand go to a folder of this process, and are removed
+    // again so that the next input starts without one.
+    static const QString temp = QString::fromLatin1(path) + QStringLiteral("_temp");
+    Audio::FileInput::setTempPath(temp);
     Audio::GeneralFileInput input;
     if (!path.isEmpty() && input.load(path.constData(), true)) {
         check(input.formatString() != QLatin1String("UNKNOWN"));
         readEverything(input);
+        input.createPeakVector();
+        QFile::remove(input.envelopeLocation());
+        for (float zoom : { 1000.0f, 256.0f, 37.5f, 1.0f, 0.5f }) {
+            for (int x : { 0, 3, 1000 })
+                input.peakInfo(x, input.channels() - 1, zoom);
+        }
+        input.createLTCData(0);
+        input.ltcTimeCode(0, false);
+    }
+    return 0;
+}
+
+int envelopeFile(const uint8_t* data, size_t size)
+{
+    const QByteArray path = writeInput(data, size);
+    Audio::WaveInput input;
+    if (!path.isEmpty() && input.loadEnvelope(path.constData())) {
+        const Audio::PeakVector& peaks = *input.peakVector();
+        check(peaks.peakChannels() < Audio::PeakVector::maximumChannels);
+        check(static_cast<size_t>(peaks.numPeakFrames()) * 2 <= size);
+    }
+    return 0;
+}
+
+int ltcFile(const uint8_t* data, size_t size)
+{
+    const QByteArray path = writeInput(data, size);
+    Audio::LTCDecoder decoder(nullptr);
+    if (!path.isEmpty() && decoder.load(path.constData())) {
+        check(decoder.words().size() * 14 + 8 <= size);
+        decoder.ltcFps();
+        if (!decoder.words().empty()) {
+            const long long first = decoder.words().front().audioFrame();
+            const long long last = decoder.words().back().audioFrame();
+            for (long long frame : { first, (first + last) / 2, last })
+                decoder.getLTC(static_cast<int>(frame)).timecode(25.0f, false);
+        }
     }
     return 0;
 }

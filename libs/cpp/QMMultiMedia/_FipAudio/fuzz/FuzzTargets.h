@@ -13,5 +13,7 @@ int waveInput(const uint8_t* data, size_t size);
 int aiffInput(const uint8_t* data, size_t size);
 int generalFileInput(const uint8_t* data, size_t size);
 int ebuInfo(const uint8_t* data, size_t size);
+int envelopeFile(const uint8_t* data, size_t size);
+int ltcFile(const uint8_t* data, size_t size);
 
 } // namespace AudioFuzz

@@ -1,10 +1,13 @@
 // Writes the seed inputs of the audio file library's fuzzing targets with the writers
-// the tests use: the wave writer (with and without broadcast info and comment),
-// libsndfile for AIFF, and the broadcast info's own side file. One folder per target
+// the tests use: the wave writer (with and without broadcast info and comment; its
+// files end in a peak envelope), libsndfile for AIFF, the broadcast info's and the
+// envelope's own side files, and an "LTCC" file. One folder per target
 // below the folder given as the argument.
+#include "Common/EBUEnvelope.h"
 #include "Common/EBUInfo.h"
 #include "Output/WaveOutput.h"
 
+#include <QDataStream>
 #include <QDir>
 #include <QString>
 
@@ -52,6 +55,21 @@ void writeAiff(const QString& path, int subtype, int channels)
     sf_close(file);
 }
 
+// Ten words of 25 frames a second, 1920 samples apart, in the "LTCC" layout.
+void writeLtcc(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    QDataStream out(&file);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out.writeRawData("LTCC", 4);
+    out << quint32(10);
+    for (int n = 0; n < 10; ++n)
+        out << quint8(1) << quint32(1920 * (n + 1)) << quint8(10) << quint8(0) << quint8(n / 25) << quint8(n % 25)
+            << quint8(0) << quint8(n) << quint8(0) << quint8(0) << quint8(0);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -59,7 +77,7 @@ int main(int argc, char** argv)
     if (argc < 2)
         return 2;
     const QDir root(QString::fromLocal8Bit(argv[1]));
-    for (const char* folder : { "WaveInput", "AiffInput", "GeneralFileInput", "EBUInfo" })
+    for (const char* folder : { "WaveInput", "AiffInput", "GeneralFileInput", "EBUInfo", "EnvelopeFile", "LTCFile" })
         root.mkpath(QLatin1String(folder));
     for (const char* folder : { "WaveInput", "GeneralFileInput" }) {
         const QDir dir(root.filePath(QLatin1String(folder)));
@@ -73,6 +91,15 @@ int main(int argc, char** argv)
         writeAiff(dir.filePath(QStringLiteral("16-stereo.aiff")), SF_FORMAT_PCM_16, 2);
         writeAiff(dir.filePath(QStringLiteral("24-mono.aiff")), SF_FORMAT_PCM_24, 1);
     }
+    Audio::PeakVector peaks;
+    for (int x = 0; x < 12; ++x)
+        peaks.addPeak(-0.01f * x, 0.02f * x, x % 3);
+    Audio::EBUEnvelope envelope;
+    envelope.save(QFile::encodeName(root.filePath(QStringLiteral("EnvelopeFile/16.bef"))).constData(), peaks,
+        Audio::EBUEnvelope::UnsignedShort);
+    envelope.save(QFile::encodeName(root.filePath(QStringLiteral("EnvelopeFile/8.bef"))).constData(), peaks,
+        Audio::EBUEnvelope::UnsignedByte);
+    writeLtcc(root.filePath(QStringLiteral("LTCFile/words.ltcc")));
     Audio::EBUInfo info(1234567, 29.97f);
     info.updateHistory(48000, 24, 2);
     info.save(QFile::encodeName(root.filePath(QStringLiteral("EBUInfo/history.bext"))).constData());

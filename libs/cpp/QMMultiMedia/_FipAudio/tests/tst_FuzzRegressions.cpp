@@ -36,6 +36,8 @@ void tst_FuzzRegressions::replays()
         { QStringLiteral("AiffInput"), AudioFuzz::aiffInput },
         { QStringLiteral("GeneralFileInput"), AudioFuzz::generalFileInput },
         { QStringLiteral("EBUInfo"), AudioFuzz::ebuInfo },
+        { QStringLiteral("EnvelopeFile"), AudioFuzz::envelopeFile },
+        { QStringLiteral("LTCFile"), AudioFuzz::ltcFile },
     };
     QVERIFY2(bodies.contains(target), qPrintable(QStringLiteral("no fuzzing target ") + target));
     QFile file(path);

@@ -174,6 +174,13 @@ void tst_PeakEnvelope::sideFileBesideAFileWithoutLevl()
     QVERIFY(!QFile::exists(side));
     first.createPeakVector();
     QVERIFY(QFile::exists(side));
+    std::vector<float> stored(samples.size());
+    std::transform(shorts.begin(), shorts.end(), stored.begin(), [](short v) { return v / 32768.0f; });
+    QCOMPARE(first.peakVector()->numPeakFrames(), frames / 256 + 1);
+    for (int x = 0; x < frames / 256 + 1; ++x) {
+        for (int ch = 0; ch < 2; ++ch)
+            QCOMPARE(first.peakVector()->peakInfo(x, ch), bruteForce(stored, 2, ch, x * 256, 256));
+    }
     QCOMPARE(QFileInfo(side).size(), 128LL + 2 * 2 * 2 * (frames / 256 + 1));
 
     WaveInput second;
