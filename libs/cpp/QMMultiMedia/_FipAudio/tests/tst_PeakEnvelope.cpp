@@ -147,8 +147,11 @@ void tst_PeakEnvelope::writerPeaksAndLevlRoundTrip()
 
 void tst_PeakEnvelope::sideFileBesideAFileWithoutLevl()
 {
-    const int frames = 5000;
-    const std::vector<float> samples = noise(frames, 2, 7);
+    const int frames = 5003;
+    std::vector<float> samples = noise(frames, 2, 7);
+    // The extremes of the last, partial block lie in its last three frames.
+    samples[(frames - 3) * 2] = 0.95f;
+    samples[(frames - 1) * 2 + 1] = -0.95f;
     const QByteArray path = m_dir.filePath(QStringLiteral("plain.file.wav")).toLocal8Bit();
     SF_INFO info;
     std::memset(&info, 0, sizeof info);
