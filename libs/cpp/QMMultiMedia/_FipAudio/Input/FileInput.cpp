@@ -512,6 +512,15 @@ FILE* FileInput::filePointer() const
     return m_file;
 }
 
+long long FileInput::audioBytesInFile() const
+{
+    struct stat status;
+    if (!m_file || ::fstat(fileno(m_file), &status) != 0)
+        return 0;
+    const long long start = static_cast<long long>(m_fileInfo.dataOffset()) + 8;
+    return std::max(0LL, std::min<long long>(status.st_size, m_endOfAudio) - start);
+}
+
 int FileInput::close()
 {
     if (!m_file)

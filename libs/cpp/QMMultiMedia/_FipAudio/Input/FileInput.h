@@ -85,6 +85,8 @@ public:
     virtual QString extentions() const;
     virtual MTools::Handle<PeakVector> peakVector() const;
     virtual FILE* filePointer() const;
+    // Bytes of audio that the file really holds, however large its headers claim it to be.
+    long long audioBytesInFile() const;
     virtual int close();
     // The timecode of an LTC track, through a decoder made on first use.
     virtual void createLTCData(const int& track);

@@ -33,6 +33,11 @@ LTCDecoder::LTCDecoder(FileInput* input)
     const long long frames = channels > 0 ? m_input->fileInfo().numSamples() / static_cast<unsigned>(channels) : 0;
     if (channels < 1 || m_detectionLength < 1 || frames < m_detectionLength)
         return;
+    // Headers may claim far more audio than there is: ten frames must really be there
+    // before room is made for them.
+    const long long needed = static_cast<long long>(m_detectionLength) * channels * (m_input->bitsPerSample() / 8);
+    if (needed > m_input->audioBytesInFile())
+        return;
     std::vector<float> samples(static_cast<size_t>(m_detectionLength) * static_cast<size_t>(channels));
     m_input->rewind();
     if (m_input->read(samples.data(), static_cast<int>(samples.size())) < static_cast<int>(samples.size()))
