@@ -55,6 +55,9 @@ protected:
     int m_nextChannel = 0;
     std::vector<int> m_intScratch;
     std::vector<char> m_rawScratch;
+
+private:
+    void addSampleToPeaks(float x);
 };
 
 } // namespace Audio

@@ -100,8 +100,17 @@ void tst_PeakEnvelope::writerPeaksAndLevlRoundTrip()
     {
         WaveOutput output(path.constData(), Settings(48000, static_cast<short>(channels), 0, 16));
         output.setEnvelopeFormat(static_cast<EBUEnvelope::Format>(format));
+        // Pieces that end inside frames as well as on their borders.
         std::vector<float> copy = samples;
-        output.write(copy.data(), static_cast<int>(copy.size()));
+        for (int done = 0, piece = 7; done < static_cast<int>(copy.size()); done += piece, piece = piece * 2 + 1)
+            output.write(copy.data() + done, std::min(piece, static_cast<int>(copy.size()) - done));
+        // The frame of the loudest sample, the first in the order of the stream.
+        int loudest = 0;
+        for (size_t i = 0; i < samples.size(); ++i) {
+            if (std::fabs(samples[i]) > std::fabs(samples[static_cast<size_t>(loudest)]))
+                loudest = static_cast<int>(i);
+        }
+        QCOMPARE(output.ebuEnvelope()->posPeakOfPeaks(), loudest / channels);
         QVERIFY(output.close());
         // Every started block is a peak; a file that ends on a block border gets one more, empty.
         const int peaks = frames / 256 + 1;
