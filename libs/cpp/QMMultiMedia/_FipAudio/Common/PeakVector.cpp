@@ -110,6 +110,40 @@ void PeakVector::move(int n)
     }
 }
 
+void PeakVector::blockExtremes(const float* samples, int frames, int channelCount, float* minimum, float* maximum)
+{
+    // Eight frames side by side in running extremes, which the compiler turns into
+    // vector instructions; the lanes of each channel are joined at the end.
+    constexpr int lanesFrames = 8;
+    float low[lanesFrames * maximumChannels] = {};
+    float high[lanesFrames * maximumChannels] = {};
+    const int width = lanesFrames * channelCount;
+    int f = 0;
+    for (; f + lanesFrames <= frames; f += lanesFrames) {
+        const float* x = samples + static_cast<size_t>(f) * static_cast<size_t>(channelCount);
+        for (int i = 0; i < width; ++i) {
+            low[i] = x[i] < low[i] ? x[i] : low[i];
+            high[i] = x[i] > high[i] ? x[i] : high[i];
+        }
+    }
+    for (int ch = 0; ch < channelCount; ++ch) {
+        float lowest = 0.0f;
+        float highest = 0.0f;
+        for (int lane = 0; lane < lanesFrames; ++lane) {
+            lowest = std::min(lowest, low[lane * channelCount + ch]);
+            highest = std::max(highest, high[lane * channelCount + ch]);
+        }
+        for (int rest = f; rest < frames; ++rest) {
+            lowest = std::min(lowest,
+                samples[static_cast<size_t>(rest) * static_cast<size_t>(channelCount) + static_cast<size_t>(ch)]);
+            highest = std::max(highest,
+                samples[static_cast<size_t>(rest) * static_cast<size_t>(channelCount) + static_cast<size_t>(ch)]);
+        }
+        minimum[ch] = lowest;
+        maximum[ch] = highest;
+    }
+}
+
 void PeakVector::dump() const
 {
     for (size_t ch = 0; ch < m_peaks.size(); ++ch)

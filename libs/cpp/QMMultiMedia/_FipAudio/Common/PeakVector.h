@@ -36,6 +36,10 @@ public:
     void move(int n);
     void dump() const;
 
+    // Minimum and maximum of each of up to 32 channels over `frames` interleaved frames,
+    // both from 0, so that a channel of only positive samples has 0 as its minimum.
+    static void blockExtremes(const float* samples, int frames, int channelCount, float* minimum, float* maximum);
+
 private:
     void growChannels(int ch);
 

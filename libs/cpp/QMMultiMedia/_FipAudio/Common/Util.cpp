@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 
 namespace Audio {
 
@@ -93,7 +94,16 @@ void Util::convert16UToRaw(const int* src, char* dst, int n, bool littleEndian)
 
 void Util::convert24UToRaw(const int* src, char* dst, int n)
 {
-    for (int i = 0; i < n / 3; ++i) {
+    // Four bytes stored at a time, low byte first, each store overwriting the spare byte
+    // of the one before; the last sample goes byte by byte so as not to pass the end.
+    const int samples = n / 3;
+    for (int i = 0; i + 1 < samples; ++i) {
+        const auto value = static_cast<std::uint32_t>(src[i]);
+        const unsigned char bytes[4] = { static_cast<unsigned char>(value), static_cast<unsigned char>(value >> 8),
+            static_cast<unsigned char>(value >> 16), 0 };
+        std::memcpy(dst + 3 * i, bytes, 4);
+    }
+    for (int i = std::max(0, samples - 1); i < samples; ++i) {
         const int value = src[i];
         dst[3 * i] = static_cast<char>(value & 0xff);
         dst[3 * i + 1] = static_cast<char>((value >> 8) & 0xff);

@@ -141,8 +141,6 @@ protected:
 private:
     // Minimum and maximum of `count` frames of a channel from `frame`, from 0 on both sides.
     PeakInfo computePeak(int frame, int count, int ch);
-    // Minimum and maximum of each channel over `frames` interleaved frames, from 0 on both sides.
-    static void blockExtremes(const float* samples, int frames, int channelCount, float* minimum, float* maximum);
 
     std::vector<char> m_rawScratch;
     std::vector<int> m_intScratch;

@@ -75,28 +75,25 @@ void FileOutput::addToPeaks(const float* samples, int count)
         // The loudest sample of the run, the first of them in the order of the stream.
         float loudest = 0.0f;
         int loudestFrame = 0;
+        const float* run0 = base + static_cast<size_t>(f) * static_cast<size_t>(channels);
+        float low[PeakVector::maximumChannels];
+        float high[PeakVector::maximumChannels];
+        PeakVector::blockExtremes(run0, run, channels, low, high);
         for (int ch = 0; ch < channels; ++ch) {
             PeakCalculationHelper& helper = m_peakHelpers[static_cast<size_t>(ch)];
-            const float* x = base + static_cast<size_t>(f) * static_cast<size_t>(channels) + ch;
-            float low = helper.minimum;
-            float high = helper.maximum;
-            for (int k = 0; k < run; ++k) {
-                const float value = x[static_cast<size_t>(k) * static_cast<size_t>(channels)];
-                low = value < low ? value : low;
-                high = value > high ? value : high;
-            }
-            const float size = std::max(-low, high);
+            helper.minimum = std::min(helper.minimum, low[ch]);
+            helper.maximum = std::max(helper.maximum, high[ch]);
+            const float size = std::max(-low[ch], high[ch]);
             if (size > m_peakOfPeaks && size >= loudest) {
                 for (int k = 0; k < run; ++k) {
-                    const float value = std::fabs(x[static_cast<size_t>(k) * static_cast<size_t>(channels)]);
+                    const float value = std::fabs(
+                        run0[static_cast<size_t>(k) * static_cast<size_t>(channels) + static_cast<size_t>(ch)]);
                     if (value > loudest || (value == loudest && f + k < loudestFrame)) {
                         loudest = value;
                         loudestFrame = f + k;
                     }
                 }
             }
-            helper.minimum = low;
-            helper.maximum = high;
         }
         if (loudest > m_peakOfPeaks) {
             m_peakOfPeaks = loudest;
