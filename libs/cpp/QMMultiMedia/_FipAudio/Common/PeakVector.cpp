@@ -115,9 +115,11 @@ void PeakVector::blockExtremes(const float* samples, int frames, int channelCoun
     // Eight frames side by side in running extremes, which the compiler turns into
     // vector instructions; the lanes of each channel are joined at the end.
     constexpr int lanesFrames = 8;
-    float low[lanesFrames * maximumChannels] = {};
-    float high[lanesFrames * maximumChannels] = {};
+    float low[lanesFrames * maximumChannels];
+    float high[lanesFrames * maximumChannels];
     const int width = lanesFrames * channelCount;
+    std::fill(low, low + width, 0.0f);
+    std::fill(high, high + width, 0.0f);
     int f = 0;
     for (; f + lanesFrames <= frames; f += lanesFrames) {
         const float* x = samples + static_cast<size_t>(f) * static_cast<size_t>(channelCount);
