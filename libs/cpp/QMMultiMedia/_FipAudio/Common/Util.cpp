@@ -1,5 +1,7 @@
 #include "Util.h"
 
+#include <QtEndian>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -93,7 +95,20 @@ void Util::convert16UToRaw(const int* src, char* dst, int n, bool littleEndian)
 
 void Util::convert24UToRaw(const int* src, char* dst, int n)
 {
-    for (int i = 0; i < n / 3; ++i) {
+    // Four samples packed into three 32-bit words at a time, low byte first; the
+    // rest byte by byte.
+    const int samples = n / 3;
+    int i = 0;
+    for (; i + 4 <= samples; i += 4) {
+        const auto a = static_cast<std::uint32_t>(src[i]) & 0xffffffu;
+        const auto b = static_cast<std::uint32_t>(src[i + 1]) & 0xffffffu;
+        const auto c = static_cast<std::uint32_t>(src[i + 2]) & 0xffffffu;
+        const auto d = static_cast<std::uint32_t>(src[i + 3]) & 0xffffffu;
+        qToLittleEndian<quint32>(a | (b << 24), dst + 3 * i);
+        qToLittleEndian<quint32>((b >> 8) | (c << 16), dst + 3 * i + 4);
+        qToLittleEndian<quint32>((c >> 16) | (d << 8), dst + 3 * i + 8);
+    }
+    for (; i < samples; ++i) {
         const int value = src[i];
         dst[3 * i] = static_cast<char>(value & 0xff);
         dst[3 * i + 1] = static_cast<char>((value >> 8) & 0xff);
