@@ -1,5 +1,7 @@
 #include "ChordsTabBar.h"
 
+#include <QMouseEvent>
+
 namespace QMMusic {
 
 ChordsTabBar::ChordsTabBar(QWidget* parent)
@@ -9,10 +11,13 @@ ChordsTabBar::ChordsTabBar(QWidget* parent)
 
 void ChordsTabBar::mouseReleaseEvent(QMouseEvent* event)
 {
-    // The release selects, as a press would, so that the current tab is the
-    // clicked one when tabClicked() goes out; the press itself only starts
-    // a move of the tab.
+    // The chord is chosen when the button comes up. The press handler
+    // selects on a release only where the style says so (macOS), so the tab
+    // under the pointer is made current here for every style.
     QTabBar::mousePressEvent(event);
+    const int index = tabAt(event->pos());
+    if (index >= 0)
+        setCurrentIndex(index);
     emit tabClicked();
 }
 

@@ -4,9 +4,9 @@
 
 namespace QMMusic {
 
-// The tabs of a chord sequence. A click acts when the button is released,
-// with the tab under the pointer already current, and every insertion or
-// removal reports the new count.
+// The tab bar of the transposer's song: it tells when its number of tabs
+// changes, and a click acts on the button's release, when the tab under the
+// pointer is already current.
 class ChordsTabBar : public QTabBar
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 #include "Transposer.h"
 
 #include "App.h"
+#include "ChordTransposition.h"
 #include "ChordsButtonsPanel.h"
 #include "ChordsTabBar.h"
 #include "FavoritesDeleteDlg.h"
@@ -21,7 +22,6 @@ namespace QMMusic {
 
 namespace {
 
-const QChar kFlat(0x266D);
 const QLatin1Char kLineFeed('\n');
 
 QMWidgets::App* app()
@@ -56,19 +56,6 @@ Transposer::Transposer(QWidget* parent)
     , m_deleteDialog(new FavoritesDeleteDlg)
 {
     setObjectName(QStringLiteral("Transposer"));
-    const QStringList naturals = { QStringLiteral("C"), QStringLiteral("D"), QStringLiteral("E"), QStringLiteral("F"),
-        QStringLiteral("G"), QStringLiteral("A"), QStringLiteral("B") };
-    const QStringList flats
-        = { QStringLiteral("C"), QStringLiteral("D") + kFlat, QStringLiteral("D"), QStringLiteral("E") + kFlat,
-              QStringLiteral("E"), QStringLiteral("F"), QStringLiteral("G") + kFlat, QStringLiteral("G"),
-              QStringLiteral("A") + kFlat, QStringLiteral("A"), QStringLiteral("B") + kFlat, QStringLiteral("B") };
-    const QStringList sharps = { QStringLiteral("C"), QStringLiteral("C #"), QStringLiteral("D"), QStringLiteral("D #"),
-        QStringLiteral("E"), QStringLiteral("F"), QStringLiteral("F #"), QStringLiteral("G"), QStringLiteral("G #"),
-        QStringLiteral("A"), QStringLiteral("A #"), QStringLiteral("B") };
-    // Twice over, so that n places up from the first match or down from the
-    // last one never run off the list for n up to 11.
-    m_flatScale = flats + flats;
-    m_sharpScale = sharps + sharps;
 
     m_tabBar->setMovable(true);
     m_tabBar->setUsesScrollButtons(true);
@@ -92,10 +79,11 @@ Transposer::Transposer(QWidget* parent)
 
     auto* transposeMenu = new QMenu(m_transposeButton);
     transposeMenu->setObjectName(QStringLiteral("TransposerMenu"));
-    for (int n = 11; n >= 1; --n)
-        transposeMenu->addAction(QString::number(n) + QStringLiteral(" #"), this, &Transposer::slotTransposeD);
-    for (int n = 1; n <= 11; ++n)
-        transposeMenu->addAction(QString::number(n) + QLatin1Char(' ') + kFlat, this, &Transposer::slotTransposeB);
+    const QStringList steps = ChordTransposition::menuTexts();
+    for (int i = 0; i < steps.size(); ++i) {
+        transposeMenu->addAction(
+            steps.at(i), this, i < steps.size() / 2 ? &Transposer::slotTransposeD : &Transposer::slotTransposeB);
+    }
     m_transposeButton->setMenu(transposeMenu);
     favoritesButton->setMenu(m_favoritesMenu);
 
@@ -271,23 +259,12 @@ void Transposer::transpose(QAction* action, bool sharp)
 {
     if (!action || !m_chordsPanel)
         return;
-    bool ok = false;
-    const int steps = action->text().split(sharp ? QChar(' ') : kFlat).first().trimmed().toInt(&ok);
-    if (!ok)
+    const int steps = ChordTransposition::steps(action->text(), sharp);
+    if (steps < 0)
         return;
-    for (int i = 0; i < m_tabBar->count(); ++i) {
-        const QString text = m_tabBar->tabText(i);
-        const QStringList lines = text.split(kLineFeed);
-        const QString root = lines.first();
-        const QString suffix = lines.size() == 2 ? lines.last() : QString();
-        // A chord spelt with a sharp stays in sharps; every other one goes to flats.
-        const QStringList& scale
-            = QString(text).remove(kLineFeed).contains(QLatin1Char('#')) ? m_sharpScale : m_flatScale;
-        const int place = sharp ? scale.indexOf(root) : scale.lastIndexOf(root);
-        if (place < 0)
-            continue;
-        m_tabBar->setTabText(i, scale.at(sharp ? place + steps : place - steps) + kLineFeed + suffix);
-    }
+    // The tab texts are the song: each is moved on its own, by its own scale.
+    for (int i = 0; i < m_tabBar->count(); ++i)
+        m_tabBar->setTabText(i, ChordTransposition::transpose(m_tabBar->tabText(i), steps, sharp));
 }
 
 void Transposer::readFavorites()

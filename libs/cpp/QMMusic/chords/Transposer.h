@@ -73,8 +73,6 @@ private:
 
     ChordsTabBar* m_tabBar = nullptr;
     ChordsButtonsPanel* m_chordsPanel = nullptr;
-    QStringList m_flatScale;
-    QStringList m_sharpScale;
     QMenu* m_favoritesMenu = nullptr;
     QMap<QString, QStringList> m_favorites;
     QPushButton* m_transposeButton = nullptr;
