@@ -33,6 +33,8 @@ ListenSwitch::ListenSwitch(const QString& text, QWidget* parent)
     m_button->setFlat(true);
     m_button->setCheckable(true);
     m_button->setMinimumHeight(32);
+    // Greyed when disabled, over whatever look the button's object name gives it.
+    m_button->setStyleSheet(QStringLiteral("QPushButton:disabled { color: rgb(110,110,110); }"));
     connect(m_button, &QPushButton::toggled, this, &ListenSwitch::slotSetOn);
 
     m_lamp = new QLabel(this);

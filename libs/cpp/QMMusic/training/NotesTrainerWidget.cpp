@@ -145,6 +145,8 @@ NotesTrainerWidget::NotesTrainerWidget(QWidget* parent)
     addKeyboardShortcuts();
 
     m_listenSwitch = new ListenSwitch(tr("Play to answer"), this);
+    // Drawn as the score panel's "Full Report" button.
+    m_listenSwitch->button()->setObjectName(QStringLiteral("PushButton"));
     connect(m_listenSwitch->listener(), &QMMultiMedia::PitchListener::notePlayed, this,
         &NotesTrainerWidget::slotNotePlayed);
 

@@ -23,12 +23,12 @@ QRectF TunerDialGeometry::face() const
 
 QPointF TunerDialGeometry::pivot() const
 {
-    return QPointF(m_face.center().x(), m_face.bottom() - m_face.height() * 0.12);
+    return QPointF(m_face.center().x(), m_face.bottom() - m_face.height() * 0.08);
 }
 
 double TunerDialGeometry::radius() const
 {
-    return m_face.height() * 0.76;
+    return m_face.height() * 0.80;
 }
 
 QPointF TunerDialGeometry::pointAt(double cents, double radiusShare) const
@@ -46,14 +46,14 @@ QRectF TunerDialGeometry::arcRect(double radiusShare) const
 
 QRectF TunerDialGeometry::nameRect() const
 {
-    const double height = m_face.height() * 0.22;
-    return QRectF(m_face.left(), pivot().y() - radius() * 0.52 - height / 2.0, m_face.width(), height);
+    const double width = radius() * 0.48;
+    return QRectF(pivot().x() - width / 2.0, pivot().y() - radius() * 0.50, width, radius() * 0.32);
 }
 
 QRectF TunerDialGeometry::readingRect() const
 {
-    const double height = m_face.height() * 0.12;
-    return QRectF(m_face.left(), pivot().y() - radius() * 0.26 - height / 2.0, m_face.width(), height);
+    const double width = radius() * 0.48;
+    return QRectF(pivot().x() - width / 2.0, pivot().y() - radius() * 0.18, width, radius() * 0.16);
 }
 
 double TunerDialGeometry::angleForCents(double cents)

@@ -8,8 +8,9 @@ namespace QMMusic {
 
 // Where the parts of the tuner's dial lie in a widget of a given size: the
 // pivot of the needle at the bottom centre, the scale of +-50 cents on an arc
-// above it, the green zone, the string's name and the reading. Also the
-// needle's easing toward a new reading.
+// above it, the green zone, the needle's outer part that swings along the
+// scale, and under it the string's name and the reading, which the needle
+// never crosses. Also the needle's easing toward a new reading.
 class TunerDialGeometry
 {
 public:
@@ -19,6 +20,9 @@ public:
     static constexpr double InTuneCents = 3.0;
     // Share of the way to a new reading that the needle goes at each reading.
     static constexpr double Easing = 0.3;
+    // The needle is drawn between these shares of the radius.
+    static constexpr double NeedleBase = 0.56;
+    static constexpr double NeedleTip = 0.97;
 
     explicit TunerDialGeometry(const QSizeF& size);
 

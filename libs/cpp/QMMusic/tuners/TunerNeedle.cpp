@@ -180,19 +180,20 @@ void TunerNeedle::paintEvent(QPaintEvent*)
         p.drawText(dial.readingRect(), Qt::AlignCenter, readingText(m_shownCents));
     }
 
-    const QPointF tip = dial.pointAt(m_shownCents, 0.97);
+    const QPointF base = dial.pointAt(m_shownCents, TunerDialGeometry::NeedleBase);
+    const QPointF tip = dial.pointAt(m_shownCents, TunerDialGeometry::NeedleTip);
     p.setPen(QPen(QColor(0, 0, 0, 60), 2.4 * unit, Qt::SolidLine, Qt::RoundCap));
-    p.drawLine(dial.pivot() + QPointF(unit, unit), tip + QPointF(unit, unit));
+    p.drawLine(base + QPointF(unit, unit), tip + QPointF(unit, unit));
     p.setPen(QPen(
         m_silent ? QColor(150, 140, 128) : (inTune ? s_green : s_copper), 1.8 * unit, Qt::SolidLine, Qt::RoundCap));
-    p.drawLine(dial.pivot(), tip);
+    p.drawLine(base, tip);
 
-    QRadialGradient hub(dial.pivot() - QPointF(1.5 * unit, 1.5 * unit), 6 * unit);
-    hub.setColorAt(0.0, QColor(250, 220, 140));
-    hub.setColorAt(1.0, QColor(150, 110, 40));
+    QRadialGradient cap(base - QPointF(unit, unit), 4 * unit);
+    cap.setColorAt(0.0, QColor(250, 220, 140));
+    cap.setColorAt(1.0, QColor(150, 110, 40));
     p.setPen(QPen(s_walnutDark, 0.6 * unit));
-    p.setBrush(hub);
-    p.drawEllipse(dial.pivot(), 5 * unit, 5 * unit);
+    p.setBrush(cap);
+    p.drawEllipse(base, 3 * unit, 3 * unit);
 }
 
 } // namespace QMMusic

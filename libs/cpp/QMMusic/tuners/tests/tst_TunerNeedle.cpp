@@ -70,9 +70,16 @@ void tst_TunerNeedle::layoutFits()
     QVERIFY(dial.pointAt(-10, 0.9).x() < dial.pivot().x());
     QVERIFY(dial.pointAt(10, 0.9).x() > dial.pivot().x());
     QVERIFY(qAbs(dial.pointAt(0, 1.0).x() - dial.pivot().x()) < 1e-9);
-    QVERIFY(dial.face().contains(dial.nameRect().center()));
-    QVERIFY(dial.nameRect().bottom() < dial.pivot().y());
-    QVERIFY(dial.readingRect().top() > dial.nameRect().bottom() - 0.01);
+    QVERIFY(dial.face().contains(dial.nameRect()));
+    QVERIFY(dial.face().contains(dial.readingRect()));
+    QVERIFY(!dial.nameRect().intersects(dial.readingRect()));
+    // Wherever the needle stands, it crosses neither the name nor the reading.
+    for (double cents = -50.0; cents <= 50.0; cents += 0.5) {
+        for (double share = TunerDialGeometry::NeedleBase; share <= TunerDialGeometry::NeedleTip; share += 0.01) {
+            const QPointF point = dial.pointAt(cents, share);
+            QVERIFY(!dial.nameRect().contains(point) && !dial.readingRect().contains(point));
+        }
+    }
 }
 
 void tst_TunerNeedle::needleFollows_data()
