@@ -88,7 +88,7 @@ void PitchWorker::slotStart(const QString& deviceName)
     format.setCodec(QStringLiteral("audio/pcm"));
     m_input = new QAudioInput(device, format, this);
     // Small server fragments keep the delay from string to needle short.
-    m_input->setBufferSize(HopSize * 2 * 2);
+    m_input->setBufferSize(HopSize * 2);
     connect(m_input, &QAudioInput::stateChanged, this, [this](QAudio::State state) {
         if (state == QAudio::StoppedState && m_input && m_input->error() != QAudio::NoError) {
             slotStop();
