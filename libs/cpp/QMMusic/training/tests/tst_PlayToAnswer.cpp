@@ -64,6 +64,7 @@ private slots:
     void runAnsweredByPlaying_data();
     void runAnsweredByPlaying();
     void switchIsOffOutsideARun();
+    void sourceThatFailsDisablesTheSwitch();
 };
 
 void tst_PlayToAnswer::initTestCase()
@@ -146,6 +147,24 @@ void tst_PlayToAnswer::switchIsOffOutsideARun()
     trainer.hide();
     QVERIFY(!trainer.listenSwitch()->isListening());
     QVERIFY(!trainer.listenSwitch()->button()->isChecked());
+}
+
+void tst_PlayToAnswer::sourceThatFailsDisablesTheSwitch()
+{
+    NotesTrainerWidget trainer;
+    QMMusic::ListenSwitch* listen = trainer.listenSwitch();
+    listen->listener()->setDeviceName(QStringLiteral("no-such-source"));
+    QSignalSpy failed(listen->listener(), &QMMultiMedia::PitchListener::failed);
+    listen->button()->click();
+    QVERIFY(failed.wait(3000));
+    QVERIFY(!listen->isListening());
+    QVERIFY(!listen->button()->isChecked());
+    QVERIFY(!listen->button()->isEnabled());
+    QVERIFY(!listen->button()->toolTip().isEmpty());
+    // A disabled switch cannot be turned on from code either.
+    listen->slotSetOn(true);
+    QVERIFY(!listen->isListening());
+    QVERIFY(!listen->button()->isChecked());
 }
 
 QTEST_MAIN(tst_PlayToAnswer)
