@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>QMMultiMedia::PitchListener</name>
+    <message>
+        <source>No sound server is running, so the instrument cannot be heard.</source>
+        <translation>Es läuft kein Sound-Server, daher kann das Instrument nicht gehört werden.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected, so the instrument cannot be heard.</source>
+        <translation>Kein Mikrofon angeschlossen, daher kann das Instrument nicht gehört werden.</translation>
+    </message>
+</context>
+<context>
     <name>QMMusic::BaseMainPage</name>
     <message>
         <source>Must Have</source>
@@ -116,6 +127,21 @@
     <message>
         <source>Please, stop the training to be able to do other actions.</source>
         <translation>Bitte beenden Sie das Training, um andere Aktionen ausführen zu können.</translation>
+    </message>
+</context>
+<context>
+    <name>QMMusic::ListenSwitch</name>
+    <message>
+        <source>The microphone is open</source>
+        <translation>Das Mikrofon ist offen</translation>
+    </message>
+    <message>
+        <source>The microphone is closed</source>
+        <translation>Das Mikrofon ist geschlossen</translation>
+    </message>
+    <message>
+        <source>The microphone could not be opened.</source>
+        <translation>Das Mikrofon konnte nicht geöffnet werden.</translation>
     </message>
 </context>
 <context>
@@ -248,6 +274,10 @@
         <source>Start</source>
         <translation>Start</translation>
     </message>
+    <message>
+        <source>Play to answer</source>
+        <translation>Durch Spielen antworten</translation>
+    </message>
 </context>
 <context>
     <name>QMMusic::NotesWidget</name>
@@ -339,6 +369,13 @@
     <message>
         <source>&quot;?</source>
         <translation>“?</translation>
+    </message>
+</context>
+<context>
+    <name>QMMusic::TunerBasePage</name>
+    <message>
+        <source>Listen</source>
+        <translation>Hören</translation>
     </message>
 </context>
 <context>

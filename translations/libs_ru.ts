@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU">
 <context>
+    <name>QMMultiMedia::PitchListener</name>
+    <message>
+        <source>No sound server is running, so the instrument cannot be heard.</source>
+        <translation>Звуковой сервер не запущен, поэтому инструмент не слышен.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected, so the instrument cannot be heard.</source>
+        <translation>Микрофон не подключён, поэтому инструмент не слышен.</translation>
+    </message>
+</context>
+<context>
     <name>QMMusic::BaseMainPage</name>
     <message>
         <source>Must Have</source>
@@ -116,6 +127,21 @@
     <message>
         <source>Please, stop the training to be able to do other actions.</source>
         <translation>Пожалуйста, остановите тренировку, чтобы выполнять другие действия.</translation>
+    </message>
+</context>
+<context>
+    <name>QMMusic::ListenSwitch</name>
+    <message>
+        <source>The microphone is open</source>
+        <translation>Микрофон включён</translation>
+    </message>
+    <message>
+        <source>The microphone is closed</source>
+        <translation>Микрофон выключен</translation>
+    </message>
+    <message>
+        <source>The microphone could not be opened.</source>
+        <translation>Не удалось включить микрофон.</translation>
     </message>
 </context>
 <context>
@@ -248,6 +274,10 @@
         <source>Start</source>
         <translation>Старт</translation>
     </message>
+    <message>
+        <source>Play to answer</source>
+        <translation>Отвечать игрой</translation>
+    </message>
 </context>
 <context>
     <name>QMMusic::NotesWidget</name>
@@ -339,6 +369,13 @@
     <message>
         <source>&quot;?</source>
         <translation>»?</translation>
+    </message>
+</context>
+<context>
+    <name>QMMusic::TunerBasePage</name>
+    <message>
+        <source>Listen</source>
+        <translation>Слушать</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,9 @@
 #include "NotesTrainerWidget.h"
 
+#include "ListenSwitch.h"
 #include "NotesLernStatistic.h"
+#include "PitchListener.h"
+#include "PitchTracker.h"
 #include "TimeInfo.h"
 
 #include <QBoxLayout>
@@ -141,6 +144,12 @@ NotesTrainerWidget::NotesTrainerWidget(QWidget* parent)
     disableKeys(true);
     addKeyboardShortcuts();
 
+    m_listenSwitch = new ListenSwitch(tr("Play to answer"), this);
+    // Drawn as the score panel's "Full Report" button.
+    m_listenSwitch->button()->setObjectName(QStringLiteral("PushButton"));
+    connect(m_listenSwitch->listener(), &QMMultiMedia::PitchListener::notePlayed, this,
+        &NotesTrainerWidget::slotNotePlayed);
+
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
     layout->setSpacing(2);
@@ -148,6 +157,7 @@ NotesTrainerWidget::NotesTrainerWidget(QWidget* parent)
     layout->addStretch(1);
     layout->addLayout(centredRow(m_startButton));
     layout->addLayout(centredRow(m_timeLabel));
+    layout->addLayout(centredRow(m_listenSwitch));
     layout->addStretch(1);
 
     // The gap of 42 stands for the black key that is missing between E and F.
@@ -208,6 +218,11 @@ NotesLernStatistic* NotesTrainerWidget::statistic() const
     return m_statistic;
 }
 
+ListenSwitch* NotesTrainerWidget::listenSwitch() const
+{
+    return m_listenSwitch;
+}
+
 QPushButton* NotesTrainerWidget::keyButton(const QString& reportKey) const
 {
     const int index = keyIndexOf(reportKey);
@@ -263,8 +278,19 @@ void NotesTrainerWidget::answer(int keyIndex)
 {
     if (!isTrainingStarted())
         return;
-    const QString key = reportKey(keyIndex);
-    const bool right = isRightAnswer(key, m_currentNote, m_currentAccidental);
+    score(keyIndex, isRightAnswer(reportKey(keyIndex), m_currentNote, m_currentAccidental));
+}
+
+void NotesTrainerWidget::slotNotePlayed(int note)
+{
+    if (!isTrainingStarted() || note < 0)
+        return;
+    // Played, the octave counts too: E3 does not answer an asked E2.
+    score(note % KeyCount, note == QMMultiMedia::PitchTracker::noteNumber(m_currentNote, m_currentAccidental));
+}
+
+void NotesTrainerWidget::score(int keyIndex, bool right)
+{
     if (right)
         m_statistic->incRight();
     else
@@ -272,7 +298,13 @@ void NotesTrainerWidget::answer(int keyIndex)
     // The board answers within this call with a new note through setNote.
     emit needNextNote();
     // Filed under the key pressed, not under the note that was asked.
-    m_statistic->addToReport(key, right ? qMakePair(1, 0) : qMakePair(0, 1));
+    m_statistic->addToReport(reportKey(keyIndex), right ? qMakePair(1, 0) : qMakePair(0, 1));
+}
+
+void NotesTrainerWidget::hideEvent(QHideEvent* event)
+{
+    m_listenSwitch->slotSetOn(false);
+    QFrame::hideEvent(event);
 }
 
 void NotesTrainerWidget::slotCClicked()

@@ -12,6 +12,7 @@ class QTimer;
 
 namespace QMMusic {
 
+class ListenSwitch;
 class NotesLernStatistic;
 
 // The training panel: twelve keys to name the note that the board shows, the
@@ -35,6 +36,8 @@ public:
     QString currentNote() const;
     int currentAccidental() const;
     NotesLernStatistic* statistic() const;
+    // The "Play to answer" switch: while it is on, a played note answers.
+    ListenSwitch* listenSwitch() const;
     // The key filed under a report key ("C", "C#", ... "B"), or nullptr.
     QPushButton* keyButton(const QString& reportKey) const;
 
@@ -70,9 +73,17 @@ public slots:
     void slotAClicked();
     void slotADClicked();
     void slotBClicked();
+    // A note heard on the instrument (MIDI number): right when pitch and
+    // octave are those of the asked note, filed under the key of its pitch.
+    void slotNotePlayed(int note);
+
+protected:
+    // The microphone is closed with the panel.
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void answer(int keyIndex);
+    void score(int keyIndex, bool right);
     // The letters answer, Space starts and stops, while the panel shows.
     void addKeyboardShortcuts();
 
@@ -84,6 +95,7 @@ private:
     int m_currentAccidental = 0;
     NotesLernStatistic* m_statistic = nullptr;
     std::array<QPushButton*, KeyCount> m_keys {};
+    ListenSwitch* m_listenSwitch = nullptr;
 };
 
 } // namespace QMMusic

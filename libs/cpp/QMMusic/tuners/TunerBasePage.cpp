@@ -4,9 +4,13 @@
 #include "AudioPoolPlayer.h"
 #include "ButtonsPanel.h"
 #include "FamilyPrograms.h"
+#include "ListenSwitch.h"
 #include "ModesPanel.h"
 #include "MusicShopBase.h"
+#include "PitchListener.h"
+#include "PitchTracker.h"
 #include "TuneButton.h"
+#include "TunerNeedle.h"
 #include "TunersCommonPanel.h"
 
 #include <QPainter>
@@ -34,10 +38,29 @@ TunerBasePage::TunerBasePage(QWidget* parent)
     m_buttonsPanel = new ButtonsPanel(this);
     connect(m_modesPanel, &TunersCommonPanel::repeatModeChangedTo, m_buttonsPanel, &ButtonsPanel::slotSetRepeatMode);
 
+    m_listenSwitch = new ListenSwitch(tr("Listen"), this);
+    m_needle = new TunerNeedle(this);
+    m_needle->hide();
+    const QMMultiMedia::PitchListener* listener = m_listenSwitch->listener();
+    connect(listener, &QMMultiMedia::PitchListener::listeningChanged, this, &TunerBasePage::slotListeningChanged);
+    connect(listener, &QMMultiMedia::PitchListener::pitchChanged, this, &TunerBasePage::slotHeard);
+    connect(listener, &QMMultiMedia::PitchListener::silenced, m_needle, &TunerNeedle::setSilent);
+
+    auto* listenRow = new QHBoxLayout;
+    listenRow->setContentsMargins(10, 6, 10, 6);
+    listenRow->addStretch(1);
+    listenRow->addWidget(m_listenSwitch);
+    listenRow->addStretch(1);
+    auto* needleRow = new QHBoxLayout;
+    needleRow->setContentsMargins(10, 0, 10, 0);
+    needleRow->addWidget(m_needle);
+
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_modesPanel);
+    layout->addLayout(listenRow);
+    layout->addLayout(needleRow);
     layout->addStretch(1);
     layout->addWidget(m_buttonsPanel);
 }
@@ -107,6 +130,16 @@ ButtonsPanel* TunerBasePage::buttonsPanel() const
     return m_buttonsPanel;
 }
 
+ListenSwitch* TunerBasePage::listenSwitch() const
+{
+    return m_listenSwitch;
+}
+
+TunerNeedle* TunerBasePage::needle() const
+{
+    return m_needle;
+}
+
 void TunerBasePage::hideAppOptions()
 {
     m_modesPanel->hideAppOptions();
@@ -136,6 +169,41 @@ void TunerBasePage::slotPlay(const QString& pattern)
 void TunerBasePage::slotSetRepeatMode(bool on)
 {
     m_buttonsPanel->slotSetRepeatMode(on);
+}
+
+void TunerBasePage::slotListeningChanged(bool listening)
+{
+    if (listening) {
+        m_listenPitch = TunersCommonPanel::storedPitch();
+        m_listenSwitch->listener()->setConcertPitch(m_listenPitch);
+    }
+    m_needle->setSilent();
+    m_needle->setVisible(listening);
+}
+
+void TunerBasePage::slotHeard(double frequency)
+{
+    QVector<int> notes;
+    QStringList names;
+    for (int key = 0; key < m_patterns.size(); ++key) {
+        const TuneButton* tuneButton = button(key);
+        const int note = QMMultiMedia::PitchTracker::noteNumber(tuneButton->text(), 0);
+        if (note < 0 || tuneButton->isHidden())
+            continue;
+        notes.append(note);
+        names.append(tuneButton->text());
+    }
+    const int nearest = QMMultiMedia::PitchTracker::nearestString(frequency, notes, m_listenPitch);
+    if (nearest < 0)
+        return;
+    m_needle->setReading(
+        names.at(nearest), QMMultiMedia::PitchTracker::centsFrom(frequency, notes.at(nearest), m_listenPitch));
+}
+
+void TunerBasePage::hideEvent(QHideEvent* event)
+{
+    m_listenSwitch->slotSetOn(false);
+    QFrame::hideEvent(event);
 }
 
 void TunerBasePage::paintEvent(QPaintEvent*)

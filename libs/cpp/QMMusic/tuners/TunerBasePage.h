@@ -9,13 +9,16 @@ class QSignalMapper;
 namespace QMMusic {
 
 class ButtonsPanel;
+class ListenSwitch;
 class ModesPanel;
 class MusicShopBase;
 class TuneButton;
+class TunerNeedle;
 
 // One instrument's ear tuner: its picture, its bar and one button per open
 // string. A press sounds the string's recording at the concert pitch that
-// the setting "Pitch" holds at that moment; the page measures nothing.
+// the setting "Pitch" holds at that moment. With "Listen" on, a needle shows
+// the nearest string to what the microphone hears and how far off it is.
 class TunerBasePage : public QFrame
 {
     Q_OBJECT
@@ -29,6 +32,8 @@ public:
     TuneButton* button(int key) const;
     ModesPanel* modesPanel() const;
     ButtonsPanel* buttonsPanel() const;
+    ListenSwitch* listenSwitch() const;
+    TunerNeedle* needle() const;
     void hideAppOptions();
 
     // The sample a button plays at the given pitch; empty for a button
@@ -39,6 +44,8 @@ public:
 public slots:
     void slotPlay(const QString& pattern);
     void slotSetRepeatMode(bool on);
+    // A heard frequency, shown against the nearest of the shown strings.
+    void slotHeard(double frequency);
 
 signals:
     // A sample handed to the pool, with its pitch filled in.
@@ -59,10 +66,13 @@ protected:
 
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    // The microphone is closed when another instrument is chosen.
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void fillMoreMenu(const MusicShopBase& shop);
     void scalePicture();
+    void slotListeningChanged(bool listening);
 
     ButtonsPanel* m_buttonsPanel = nullptr;
     ModesPanel* m_modesPanel = nullptr;
@@ -72,6 +82,9 @@ private:
     QSignalMapper* m_signalMapper = nullptr;
     QString m_resourceDirectory;
     QStringList m_patterns;
+    ListenSwitch* m_listenSwitch = nullptr;
+    TunerNeedle* m_needle = nullptr;
+    int m_listenPitch = 440;
 };
 
 } // namespace QMMusic
