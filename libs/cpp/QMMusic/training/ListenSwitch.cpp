@@ -3,6 +3,8 @@
 #include "PitchListener.h"
 
 #include <QBoxLayout>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -20,15 +22,17 @@ const char* const s_lampOff = "QLabel#ListenLamp { border-radius: 6px; border: 1
 
 } // namespace
 
-ListenSwitch::ListenSwitch(const QString& text, QWidget* parent)
+ListenSwitch::ListenSwitch(const char* context, const char* text, QWidget* parent)
     : QFrame(parent)
+    , m_context(context)
+    , m_text(text)
 {
     setObjectName(QStringLiteral("ListenSwitch"));
     m_listener = new QMMultiMedia::PitchListener(this);
     connect(m_listener, &QMMultiMedia::PitchListener::listeningChanged, this, &ListenSwitch::slotListeningChanged);
     connect(m_listener, &QMMultiMedia::PitchListener::failed, this, &ListenSwitch::slotFailed);
 
-    m_button = new QPushButton(text, this);
+    m_button = new QPushButton(QCoreApplication::translate(context, text), this);
     m_button->setObjectName(QStringLiteral("PanelButton"));
     m_button->setFlat(true);
     m_button->setCheckable(true);
@@ -90,9 +94,31 @@ void ListenSwitch::slotListeningChanged(bool listening)
 
 void ListenSwitch::slotFailed()
 {
-    disableWithReason(QMMultiMedia::PitchListener::unavailableReason().isEmpty()
-            ? tr("The microphone could not be opened.")
-            : QMMultiMedia::PitchListener::unavailableReason());
+    m_failedToOpen = true;
+    disableWithReason(unavailableReason());
+}
+
+QString ListenSwitch::unavailableReason() const
+{
+    const QString reason = QMMultiMedia::PitchListener::unavailableReason();
+    if (reason.isEmpty() && m_failedToOpen)
+        return tr("The microphone could not be opened.");
+    return reason;
+}
+
+void ListenSwitch::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QFrame::changeEvent(event);
+}
+
+void ListenSwitch::retranslate()
+{
+    m_button->setText(QCoreApplication::translate(m_context, m_text));
+    slotListeningChanged(isListening());
+    if (!m_button->isEnabled())
+        disableWithReason(unavailableReason());
 }
 
 void ListenSwitch::disableWithReason(const QString& reason)

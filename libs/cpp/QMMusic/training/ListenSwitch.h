@@ -21,7 +21,9 @@ class ListenSwitch : public QFrame
     Q_DISABLE_COPY(ListenSwitch)
 
 public:
-    ListenSwitch(const QString& text, QWidget* parent = nullptr);
+    // The button's text is the source text in the given translation
+    // context, kept in the current language like every text of the switch.
+    ListenSwitch(const char* context, const char* text, QWidget* parent = nullptr);
 
     QPushButton* button() const;
     QMMultiMedia::PitchListener* listener() const;
@@ -30,7 +32,12 @@ public:
 public slots:
     void slotSetOn(bool on);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void retranslate();
+    QString unavailableReason() const;
     void slotListeningChanged(bool listening);
     void slotFailed();
     void disableWithReason(const QString& reason);
@@ -38,6 +45,9 @@ private:
     QPushButton* m_button = nullptr;
     QLabel* m_lamp = nullptr;
     QMMultiMedia::PitchListener* m_listener = nullptr;
+    const char* m_context;
+    const char* m_text;
+    bool m_failedToOpen = false;
 };
 
 } // namespace QMMusic

@@ -144,7 +144,7 @@ NotesTrainerWidget::NotesTrainerWidget(QWidget* parent)
     disableKeys(true);
     addKeyboardShortcuts();
 
-    m_listenSwitch = new ListenSwitch(tr("Play to answer"), this);
+    m_listenSwitch = new ListenSwitch(staticMetaObject.className(), QT_TR_NOOP("Play to answer"), this);
     // Drawn as the score panel's "Full Report" button.
     m_listenSwitch->button()->setObjectName(QStringLiteral("PushButton"));
     connect(m_listenSwitch->listener(), &QMMultiMedia::PitchListener::notePlayed, this,

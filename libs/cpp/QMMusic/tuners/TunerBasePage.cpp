@@ -38,7 +38,7 @@ TunerBasePage::TunerBasePage(QWidget* parent)
     m_buttonsPanel = new ButtonsPanel(this);
     connect(m_modesPanel, &TunersCommonPanel::repeatModeChangedTo, m_buttonsPanel, &ButtonsPanel::slotSetRepeatMode);
 
-    m_listenSwitch = new ListenSwitch(tr("Listen"), this);
+    m_listenSwitch = new ListenSwitch(staticMetaObject.className(), QT_TR_NOOP("Listen"), this);
     m_needle = new TunerNeedle(this);
     m_needle->hide();
     const QMMultiMedia::PitchListener* listener = m_listenSwitch->listener();
