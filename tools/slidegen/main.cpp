@@ -5,6 +5,7 @@
 // default.
 #include "App.h"
 #include "AppStyleSheet.h"
+#include "ChordPictures.h"
 #include "SlideCaptions.h"
 #include "SlideComposer.h"
 #include "SlideScenes.h"
@@ -36,6 +37,8 @@ int main(int argc, char* argv[])
     // open at full length as they do on a desktop.
     QMWidgets::App app(argc, argv, QStringLiteral("Corvane"), program);
     app.setStyleSheet(QMWidgets::AppStyleSheet::text());
+    // As in the programs: the chord pictures lie below the library's offset.
+    app.setResourceOffset(QMMusic::ChordPictures::libraryOffset());
 
     const QVector<SlideScenes::Scene> scenes = SlideScenes::render(instrument);
     QDir().mkpath(outputDir);
