@@ -1,9 +1,7 @@
-#include "AudioFileDecoder.h"
 #include "PitchListener.h"
+#include "SinkSamplePlayer.h"
 
 #include <QAudioDeviceInfo>
-#include <QAudioOutput>
-#include <QBuffer>
 #include <QtTest>
 
 #include <pulse/simple.h>
@@ -89,34 +87,14 @@ private:
 };
 
 // One guitar sample played from memory into the default sink.
-class SamplePlayer
+// A guitar sample of the build played into the sink.
+class SamplePlayer : public SinkSamplePlayer
 {
 public:
     explicit SamplePlayer(const QString& stem)
+        : SinkSamplePlayer(QStringLiteral(QM_BUNDLE_RESOURCES_DIR "/guitar_440_%1.mp3").arg(stem))
     {
-        QMMultiMedia::DecodedSound sound;
-        QMMultiMedia::AudioFileDecoder::decode(
-            QStringLiteral(QM_BUNDLE_RESOURCES_DIR "/guitar_440_%1.mp3").arg(stem), &sound);
-        QByteArray bytes(int(sound.frames()) * 2, '\0');
-        auto* out = reinterpret_cast<qint16*>(bytes.data());
-        for (int i = 0; i < sound.frames(); ++i)
-            out[i] = qint16(qBound(-1.0f, sound.samples.at(i * sound.channels), 1.0f) * 32767.0f);
-        m_buffer.setData(bytes);
-        m_buffer.open(QIODevice::ReadOnly);
-        QAudioFormat format;
-        format.setSampleRate(44100);
-        format.setChannelCount(1);
-        format.setSampleSize(16);
-        format.setSampleType(QAudioFormat::SignedInt);
-        format.setByteOrder(QAudioFormat::LittleEndian);
-        format.setCodec(QStringLiteral("audio/pcm"));
-        m_output = std::make_unique<QAudioOutput>(format);
-        m_output->start(&m_buffer);
     }
-
-private:
-    QBuffer m_buffer;
-    std::unique_ptr<QAudioOutput> m_output;
 };
 
 } // namespace

@@ -1,12 +1,10 @@
-#include "AudioFileDecoder.h"
 #include "ListenSwitch.h"
 #include "NotesLernStatistic.h"
 #include "NotesTrainerWidget.h"
 #include "PitchListener.h"
+#include "SinkSamplePlayer.h"
 
 #include <QAudioDeviceInfo>
-#include <QAudioOutput>
-#include <QBuffer>
 #include <QPushButton>
 #include <QtTest>
 
@@ -22,35 +20,14 @@ Q_DECLARE_METATYPE(Report)
 namespace {
 
 // Plays one of the guitar samples into the default sink, whose monitor the trainer hears.
-class SamplePlayer
+// A guitar sample of the build played into the sink.
+class SamplePlayer : public SinkSamplePlayer
 {
 public:
     explicit SamplePlayer(const QString& stem)
+        : SinkSamplePlayer(QStringLiteral(QM_BUNDLE_RESOURCES_DIR "/guitar_440_%1.mp3").arg(stem))
     {
-        QMMultiMedia::DecodedSound sound;
-        QMMultiMedia::AudioFileDecoder::decode(
-            QStringLiteral(QM_BUNDLE_RESOURCES_DIR "/guitar_440_%1.mp3").arg(stem), &sound);
-        m_bytes.resize(int(sound.frames()) * 2);
-        auto* out = reinterpret_cast<qint16*>(m_bytes.data());
-        for (int i = 0; i < sound.frames(); ++i)
-            out[i] = qint16(qBound(-1.0f, sound.samples.at(i * sound.channels), 1.0f) * 32767.0f);
-        m_buffer.setData(m_bytes);
-        m_buffer.open(QIODevice::ReadOnly);
-        QAudioFormat format;
-        format.setSampleRate(sound.sampleRate);
-        format.setChannelCount(1);
-        format.setSampleSize(16);
-        format.setSampleType(QAudioFormat::SignedInt);
-        format.setByteOrder(QAudioFormat::LittleEndian);
-        format.setCodec(QStringLiteral("audio/pcm"));
-        m_output = std::make_unique<QAudioOutput>(format);
-        m_output->start(&m_buffer);
     }
-
-private:
-    QByteArray m_bytes;
-    QBuffer m_buffer;
-    std::unique_ptr<QAudioOutput> m_output;
 };
 
 } // namespace

@@ -1,16 +1,14 @@
 #include "App.h"
-#include "AudioFileDecoder.h"
 #include "ListenSwitch.h"
 #include "PitchListener.h"
 #include "PitchTracker.h"
+#include "SinkSamplePlayer.h"
 #include "TuneButton.h"
 #include "TunerBasePage.h"
 #include "TunerNeedle.h"
 #include "TunersMainPage.h"
 
 #include <QAudioDeviceInfo>
-#include <QAudioOutput>
-#include <QBuffer>
 #include <QFileInfo>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -31,34 +29,7 @@ const int s_pitches[] = { 415, 440, 460 };
 const int kLowestHeardNote = 29;
 
 // A tuner sample played from memory into the default sink, whose monitor the page hears.
-class SamplePlayer
-{
-public:
-    explicit SamplePlayer(const QString& path)
-    {
-        QMMultiMedia::DecodedSound sound;
-        QMMultiMedia::AudioFileDecoder::decode(path, &sound);
-        QByteArray bytes(int(sound.frames()) * 2, '\0');
-        auto* out = reinterpret_cast<qint16*>(bytes.data());
-        for (int i = 0; i < sound.frames(); ++i)
-            out[i] = qint16(qBound(-1.0f, sound.samples.at(i * sound.channels), 1.0f) * 32767.0f);
-        m_buffer.setData(bytes);
-        m_buffer.open(QIODevice::ReadOnly);
-        QAudioFormat format;
-        format.setSampleRate(sound.sampleRate);
-        format.setChannelCount(1);
-        format.setSampleSize(16);
-        format.setSampleType(QAudioFormat::SignedInt);
-        format.setByteOrder(QAudioFormat::LittleEndian);
-        format.setCodec(QStringLiteral("audio/pcm"));
-        m_output = std::make_unique<QAudioOutput>(format);
-        m_output->start(&m_buffer);
-    }
-
-private:
-    QBuffer m_buffer;
-    std::unique_ptr<QAudioOutput> m_output;
-};
+using SamplePlayer = SinkSamplePlayer;
 
 // The note of a sample from its file stem: "..._E2.mp3", "..._Fd2.mp3".
 int noteOfSample(const QString& path)
