@@ -100,8 +100,10 @@ void paintInstrument(QPainter& p, const QSizeF& s, const QString& instrument)
 void generateInstruments(ArtWriter& writer)
 {
     const QSize size(64, 64);
-    const QStringList instruments = { QStringLiteral("mandolin"), QStringLiteral("guitar"), QStringLiteral("piano"),
-        QStringLiteral("banjo"), QStringLiteral("balalaika"), QStringLiteral("bass") };
+    // Also the labels of the chord pages: "bass2" is the bass played high up the neck.
+    const QStringList instruments
+        = { QStringLiteral("mandolin"), QStringLiteral("guitar"), QStringLiteral("piano"), QStringLiteral("banjo"),
+              QStringLiteral("balalaika"), QStringLiteral("bass"), QStringLiteral("ukulele"), QStringLiteral("bass2") };
     for (const QString& instrument : instruments)
         writer.addPicturePair(
             instrument, size, [&](QPainter& p, const QSizeF& s) { paintInstrument(p, s, instrument); });

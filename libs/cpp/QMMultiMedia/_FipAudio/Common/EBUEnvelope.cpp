@@ -158,8 +158,11 @@ bool EBUEnvelope::readPeaks(FILE* file, long position, PeakVector& peaks) const
     const int width = m_format == UnsignedShort ? 2 : 1;
     const long long values = static_cast<long long>(m_peakChannels) * m_numPeakFrames * 2;
     fseeko(file, 0, SEEK_END);
-    const long long available = ftello(file) - position;
-    if (m_peakChannels < 0 || m_peakChannels >= PeakVector::maximumChannels || m_numPeakFrames < 0
+    const long long size = ftello(file);
+    // The peaks must start inside the file: a negative offset would make
+    // any claimed count look as if the file held it.
+    const long long available = position >= 0 && position <= size ? size - position : -1;
+    if (m_peakChannels < 0 || m_peakChannels >= PeakVector::maximumChannels || m_numPeakFrames < 0 || available < 0
         || values * width > available) {
         qWarning("It is not a valid EBUEnvelope file");
         return false;
