@@ -45,17 +45,11 @@ class tst_SingleInstance : public QObject
         return socket.readLine() == "ok\n";
     }
 
-    // Asks until a copy answers or the time is up; each try costs up to its
-    // own time-out, which the QTRY macros would not count.
+    // Asks until a copy answers or the time is up, as QTRY would, each try
+    // waiting on the copy's socket.
     static bool waitForAnswer()
     {
-        const QDeadlineTimer deadline(30000);
-        while (!deadline.hasExpired()) {
-            if (copyAnswers(200))
-                return true;
-            QTest::qWait(50);
-        }
-        return false;
+        return QTest::qWaitFor([]() { return copyAnswers(200); }, 30000);
     }
 
     // Ends a copy however the test leaves, a stopped one included.
